@@ -35,9 +35,6 @@ class Bytes {
   void SetU16(std::size_t offset, std::size_t value) {
     data_.replace(offset, 2, Bytes().U16(value).Take());
   }
-  void SetU32(std::size_t offset, std::size_t value) {
-    data_.replace(offset, 4, Bytes().U32(value).Take());
-  }
   std::size_t Size() const { return data_.size(); }
   std::string Take() { return std::move(data_); }
 
@@ -350,6 +347,14 @@ std::string DosExecutable() {
   header.Append("MZ").U16(kHeaderSize).U16(1).U16(0).U16(kHeaderSize / 16).U16(0).U16(0xFFFF);
   header.PadTo(0x18).U16(0x1C);
   return header.PadTo(kHeaderSize).Take();
+}
+
+std::string IconFile() {
+  constexpr std::size_t kDirectorySize = 6 + 16;
+  const std::string image = IconImage();
+  Bytes file;
+  file.U16(0).U16(1).U16(1).U8(kIconSide).U8(kIconSide).U8(16).U8(0).U16(1).U16(4);
+  return file.U32(image.size()).U32(kDirectorySize).Append(image).Take();
 }
 
 std::string ZipArchive(std::size_t size) {

@@ -2,6 +2,7 @@
 // in them can run: a header, a resource directory and a version record are all they hold.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,7 +27,10 @@ std::string NeExecutable(std::string_view block, Icon icon = Icon::kNone);
 std::string PeExecutable(std::string_view block, Icon icon = Icon::kNone);
 // An MS-DOS executable: an MZ header and nothing else.
 std::string DosExecutable();
-// A ZIP archive of `size` bytes (at least 22) with one stored member of zeros.
+// The icon of these executables as an .ico file.
+std::string IconFile();
+// A ZIP archive of `size` bytes (at least 22) with one stored member of zeros;
+// below 114 bytes it is empty, and blanks in its comment make up the size.
 std::string ZipArchive(std::size_t size);
 
 }  // namespace trovex::test
