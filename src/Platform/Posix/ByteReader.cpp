@@ -1,0 +1,50 @@
+#include "Platform/Posix/ByteReader.h"
+
+#include <limits>
+
+namespace trovex {
+namespace {
+
+// The one overflow check: no offset beyond this is read at, so sums of an offset and a size, or
+// of two 32-bit numbers, cannot wrap.
+constexpr std::uint64_t kMaxOffset = std::uint64_t{1} << 48;
+
+}  // namespace
+
+std::uint32_t ByteView::Number(std::size_t at, std::size_t size) const {
+  if (at > bytes_.size() || size > bytes_.size() - at) return 0;
+  std::uint32_t number = 0;
+  for (std::size_t i = size; i-- > 0;) {
+    number = number << 8 | static_cast<std::uint8_t>(bytes_[at + i]);
+  }
+  return number;
+}
+
+bool ByteReader::InWindow(std::uint64_t offset, std::size_t size) const {
+  return offset >= start_ && offset - start_ <= length_ && size <= length_ - (offset - start_);
+}
+
+std::optional<ByteView> ByteReader::At(std::uint64_t offset, std::size_t size) {
+  if (offset > kMaxOffset || size > kWindow) return std::nullopt;
+  if (!InWindow(offset, size)) {
+    start_ = offset;
+    length_ = source_.ReadAt(offset, window_, kWindow);
+    if (length_ < size) return std::nullopt;
+  }
+  return ByteView(std::string_view(window_ + (offset - start_), size));
+}
+
+bool ByteReader::Copy(std::uint64_t offset, std::size_t size, std::string& bytes) {
+  bytes.clear();
+  if (offset > kMaxOffset) return false;
+  if (InWindow(offset, size)) {
+    bytes.assign(window_ + (offset - start_), size);
+    return true;
+  }
+  bytes.resize(size);
+  if (source_.ReadAt(offset, bytes.data(), size) == size) return true;
+  bytes.clear();
+  return false;
+}
+
+}  // namespace trovex

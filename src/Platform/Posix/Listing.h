@@ -1,0 +1,79 @@
+// What a directory holds, as the program sees it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Platform/Text.h"
+
+namespace trovex {
+
+enum class EntryKind : std::uint8_t {
+  kMissing,
+  kFile,       // a regular file or a link to one
+  kDirectory,  // itself, no link to one
+  kOther,      // whatever the program must not see nor open, but must not overwrite either
+};
+
+struct DirectoryEntry {
+  EntryKind kind = EntryKind::kMissing;
+  TextView name;     // as the program sees it
+  const char* host;  // its bytes on the host
+};
+
+// An immutable snapshot of one directory, in ascending order of the upper-cased names, compared
+// code unit by code unit. No two names are the same without regard to case: of names that differ
+// only in case the first keeps its own, the others show as stem~2.ext, stem~3.ext...
+class Listing {
+ public:
+  // Reads a directory that is no link. Null with the reason in errno.
+  static std::shared_ptr<const Listing> Read(const std::string& host);
+
+  // Entries of every kind; those of kind kOther come with the others.
+  std::size_t Count() const { return records_.size(); }
+  DirectoryEntry At(std::size_t index) const;
+  // The entry of an upper-cased name.
+  std::optional<DirectoryEntry> Find(TextView upper_name) const;
+  // The entry with these bytes as its name on the host.
+  std::optional<DirectoryEntry> FindHost(std::string_view host_name) const;
+
+ private:
+  // Names lie end to end in three buffers, so that a listing costs few allocations.
+  struct Record {
+    std::uint32_t text, host;
+    std::uint16_t length;
+    EntryKind kind;
+  };
+
+  void Add(std::string_view host_name, EntryKind kind);
+  void Arrange();
+  void Sort();
+  void SeparateNames();
+  void Rename(Record& record, const Text& name);
+  TextView Name(const Record& record) const;
+  TextView Upper(const Record& record) const;
+
+  std::vector<Record> records_;
+  Text names_;
+  Text upper_names_;  // offsets as in names_
+  std::string host_names_;
+};
+
+// What a host name looks like to the program, and the host name for a new file of that name. A
+// backslash in a host name shows as U+F05C, since it would read as a separator.
+Text ShownName(std::string_view host_name);
+std::string NewHostName(TextView name);
+
+// True if a name hides its entry: it begins with a point.
+inline bool IsHiddenName(TextView name) {
+  return name.starts_with(u'.');
+}
+
+// The kind of an entry found by its host path; kMissing where there is none.
+EntryKind KindOfHost(const std::string& path);
+
+}  // namespace trovex

@@ -1,0 +1,53 @@
+#include "Platform/Posix/VersionResource.h"
+
+namespace trovex {
+namespace {
+
+constexpr std::size_t kNeHeaderSize = 0x40;
+constexpr std::size_t kResourceTableAt = 0x24;  // relative to the header, as are all tables
+constexpr std::size_t kResidentNamesAt = 0x26;
+constexpr std::size_t kTargetSystemAt = 0x36;
+constexpr std::uint16_t kTargetOs2 = 1;  // whose resource table looks otherwise
+
+constexpr std::uint16_t kVersionType = 0x8010;  // the high bit marks a number instead of a name
+constexpr std::size_t kTypeSize = 8;            // type, count, reserved
+constexpr std::size_t kResourceSize = 12;       // offset, length, flags, name, reserved
+
+constexpr unsigned kMaxShift = 15;
+constexpr int kMaxTypes = 1024;
+
+// The first resource of the version type; offset and length count in units of 1 << shift.
+std::string ReadRecord(ByteReader& file, std::uint64_t at, unsigned shift) {
+  const auto resource = file.At(at, kResourceSize);
+  if (!resource) return {};
+  const std::uint64_t offset = std::uint64_t{resource->U16(0)} << shift;
+  const std::uint64_t length = std::uint64_t{resource->U16(2)} << shift;
+  std::string record;
+  if (length <= kMaxVersionBlock) file.Copy(offset, static_cast<std::size_t>(length), record);
+  return record;
+}
+
+}  // namespace
+
+std::string ReadNeVersion(ByteReader& file, std::uint64_t header) {
+  const auto ne = file.At(header, kNeHeaderSize);
+  if (!ne || (ne->U16(kTargetSystemAt) & 0xFF) == kTargetOs2) return {};
+  // A file without resources lets both tables begin at the same place.
+  if (ne->U16(kResourceTableAt) == ne->U16(kResidentNamesAt)) return {};
+  std::uint64_t at = header + ne->U16(kResourceTableAt);
+  const auto table = file.At(at, 2);
+  if (!table || table->U16(0) > kMaxShift) return {};
+  const unsigned shift = table->U16(0);
+  at += 2;
+  for (int types = 0; types < kMaxTypes; ++types) {
+    const auto type = file.At(at, kTypeSize);
+    if (!type || type->U16(0) == 0) return {};
+    const std::size_t count = type->U16(2);
+    at += kTypeSize;
+    if (type->U16(0) == kVersionType && count > 0) return ReadRecord(file, at, shift);
+    at += count * kResourceSize;
+  }
+  return {};
+}
+
+}  // namespace trovex

@@ -1,0 +1,103 @@
+#include <fcntl.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <filesystem>
+
+#include "Platform/Encoding.h"
+#include "Platform/Host.h"
+#include "Platform/Posix/HostCalls.h"
+#include "Platform/Posix/PosixPlatform.h"
+
+namespace trovex {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The path with its links resolved as far as it exists: no link to a directory leads anywhere by
+// the names of the program. The last level stays as it is, for it may be a link to a file.
+std::string RealPath(const std::string& path) {
+  std::error_code error;
+  fs::path whole = fs::absolute(path, error);
+  if (error) return path;
+  const fs::path leaf = whole.filename();
+  if (leaf.empty() || leaf == "." || leaf == ".." || fs::is_directory(whole, error)) {
+    return fs::weakly_canonical(whole, error).string();
+  }
+  const fs::path directory = fs::weakly_canonical(whole.parent_path(), error);
+  return (error ? whole : directory / leaf).string();
+}
+
+std::string ProgramDirectory() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  return error ? "/" : program.parent_path().string();
+}
+
+std::string TemporaryDirectory() {
+  const char* directory = getenv("TMPDIR");
+  return directory != nullptr && *directory != '\0' ? directory : "/tmp";
+}
+
+// Why the directory cannot be catalogued; empty if it can.
+std::string Complaint(const std::string& directory) {
+  struct stat status;
+  if (stat(directory.c_str(), &status) != 0) {
+    const bool missing = errno == ENOENT || errno == ENOTDIR;
+    return missing ? "no such directory" : "cannot be read";
+  }
+  if (!S_ISDIR(status.st_mode)) return "is not a directory";
+  const FileDescriptor opened(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return opened.IsOpen() ? "" : "cannot be read";
+}
+
+// "/x/y: no such directory", but "/x/y is not a directory".
+std::string Sentence(const std::string& directory, const std::string& complaint) {
+  const char* joint = complaint.starts_with("no ") ? ": " : " ";
+  return "trovex-cli: " + directory + joint + complaint;
+}
+
+class PosixHost : public Host {
+ public:
+  PosixHost(const std::string& directory, char16_t drive)
+      : drive_(ToUpper(drive)),
+        root_drive_(drive_ == u'Z' ? u'Y' : u'Z'),
+        platform_(Setup(directory)) {}
+
+  Platform& GetPlatform() override { return platform_; }
+  Text Start() override { return Text{drive_, u':', u'\\'}; }
+
+  Text NameOf(const std::string& argument) override {
+    if (argument.empty()) return {};
+    return platform_.NameOfHost(root_drive_, RealPath(argument));
+  }
+
+ private:
+  PosixSetup Setup(const std::string& directory) const {
+    const fs::path real = RealPath(directory);
+    PosixSetup setup;
+    setup.drives = {{drive_, real.string(), DriveType::kCdRom, FromUtf8(real.filename().string())},
+                    {root_drive_, "/", DriveType::kFixed, u""}};
+    // The host's own directories are named through its root drive.
+    PosixPlatform root(setup);
+    setup.program_directory = root.NameOfHost(root_drive_, RealPath(ProgramDirectory()));
+    setup.environment[u"TMP"] = root.NameOfHost(root_drive_, RealPath(TemporaryDirectory()));
+    return setup;
+  }
+
+  char16_t drive_, root_drive_;
+  PosixPlatform platform_;
+};
+
+}  // namespace
+
+std::unique_ptr<Host> OpenHost(const std::string& directory, char16_t drive,
+                               std::string& complaint) {
+  const std::string reason = Complaint(directory);
+  if (reason.empty()) return std::make_unique<PosixHost>(directory, drive);
+  complaint = Sentence(directory, reason);
+  return nullptr;
+}
+
+}  // namespace trovex

@@ -1,0 +1,428 @@
+#include "Platform/Posix/PosixPlatform.h"
+
+#include <fcntl.h>
+
+#include <cerrno>
+#include <chrono>
+#include <vector>
+
+#include "Platform/Encoding.h"
+#include "Platform/Pattern.h"
+#include "Platform/Posix/Errors.h"
+#include "Platform/Posix/HostCalls.h"
+#include "Platform/Posix/LocalDate.h"
+#include "Platform/Posix/ProfileFile.h"
+#include "Platform/Posix/Replacement.h"
+#include "Platform/Posix/VersionResource.h"
+
+namespace trovex {
+namespace {
+
+constexpr std::size_t kCopyBuffer = 65536;
+// What stands behind this in a profile file is not read, and a longer file is not written.
+constexpr std::size_t kMaxProfile = 1 << 20;
+
+constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+
+// True for the errors that a place from memory gives once the disk has changed.
+bool IsStale(int error) {
+  return error == ENOENT || error == ENOTDIR || error == ELOOP;
+}
+
+// Why a place cannot be used as a file; 0 if it can.
+int FileError(const Place& place) {
+  switch (place.kind) {
+    case EntryKind::kMissing:
+      return ENOENT;
+    case EntryKind::kDirectory:
+      return EISDIR;
+    case EntryKind::kOther:
+      return ENXIO;
+    case EntryKind::kFile:
+      break;
+  }
+  return 0;
+}
+
+// Reads at offsets from an open file.
+class FileSource : public ByteSource {
+ public:
+  explicit FileSource(FileDescriptor file) : file_(std::move(file)) {}
+
+  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
+    std::size_t done = 0;
+    while (done < size) {
+      const ssize_t got =
+          pread(file_.Get(), buffer + done, size - done, static_cast<off_t>(offset + done));
+      if (got < 0 && errno == EINTR) continue;
+      if (got <= 0) break;
+      done += static_cast<std::size_t>(got);
+    }
+    return done;
+  }
+
+ private:
+  FileDescriptor file_;
+};
+
+// The name if it fits with its terminator, else the size that it needs.
+std::uint32_t FillBuffer(const Text& name, Text& buffer, std::uint32_t size) {
+  const auto length = static_cast<std::uint32_t>(name.size());
+  buffer = length < size ? name : Text();
+  return length < size ? length : length + 1;
+}
+
+// Copies what is left of `source`.
+int CopyContents(int source, Replacement& target) {
+  std::vector<char> buffer(kCopyBuffer);
+  for (;;) {
+    const std::ptrdiff_t got = ReadFully(source, buffer.data(), buffer.size());
+    if (got < 0) return EIO;
+    if (got == 0) return 0;
+    if (!target.Write(buffer.data(), static_cast<std::size_t>(got))) return errno;
+  }
+}
+
+int ReadProfile(const std::string& host, std::string& bytes) {
+  const FileDescriptor file = OpenHostFile(host);
+  if (!file.IsOpen()) return errno;
+  bytes.resize(kMaxProfile);
+  const std::ptrdiff_t got = ReadFully(file.Get(), bytes.data(), bytes.size());
+  if (got < 0) return errno;
+  bytes.resize(static_cast<std::size_t>(got));
+  return 0;
+}
+
+int ReplaceFile(const std::string& host, const std::string& bytes) {
+  Replacement file(host);
+  const bool done = file.Open() && file.Write(bytes.data(), bytes.size()) && file.Commit();
+  return done ? 0 : errno;
+}
+
+FileDescriptor OpenForWriting(const Place& place) {
+  if (place.kind == EntryKind::kMissing) {
+    return OpenHostPath(place.host, O_WRONLY | O_CREAT | O_EXCL);
+  }
+  struct stat status;
+  if (!StatHost(place.host, status)) return FileDescriptor();
+  if (!S_ISREG(status.st_mode)) {
+    errno = ENXIO;
+    return FileDescriptor();
+  }
+  if (!MayWriteHost(place.host, status)) return FileDescriptor();
+  return OpenHostPath(place.host, O_WRONLY | O_TRUNC | O_NONBLOCK);
+}
+
+}  // namespace
+
+PosixPlatform::PosixPlatform(PosixSetup setup)
+    : drives_(setup.drives, setup.current_drive),
+      names_(drives_),
+      setup_(std::move(setup)),
+      random_(
+          static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())) {
+}
+
+template <typename Use>
+int PosixPlatform::OnPlace(const Text& name, Use use) {
+  for (;;) {
+    const std::optional<Place> place = names_.Find(name);
+    const int error = place ? use(*place) : errno;
+    if (error == 0) return 0;
+    if (!place || !place->hinted || !IsStale(error)) return last_error_ = error;
+    names_.Forget();
+  }
+}
+
+void PosixPlatform::Raise(int error) {
+  last_error_ = error;
+  throw RuntimeError(ErrorNumberOf(error));
+}
+
+// --- Directory search ---------------------------------------------------------------------------
+
+FindHandle PosixPlatform::FindFirstFile(const Text& pattern, FindData& data) {
+  data = {};
+  const std::size_t cut = pattern.find_last_of(u"\\/:") + 1;
+  const TextView level = TextView(pattern).substr(cut);
+  if (!HasWildcard(level)) return FindSingle(pattern, data);
+  const Text directory = cut == 0 ? Text(u".") : pattern.substr(0, cut);
+  auto listing = names_.List(directory);
+  if (!listing) {
+    last_error_ = errno;
+    return FindHandle::kInvalid;
+  }
+  const bool root = drives_.FullName(directory)->back() == u'\\';
+  const auto dots = root ? FindTable::Dots::kNone : FindTable::Dots::kFirst;
+  const FindHandle handle = finds_.Begin(std::move(listing), level, dots, data);
+  if (handle == FindHandle::kInvalid) last_error_ = ENOENT;
+  return handle;
+}
+
+FindHandle PosixPlatform::FindSingle(const Text& name, FindData& data) {
+  const int error = OnPlace(name, [&](const Place& place) {
+    // A root and a name that ends in a backslash are no entries of a directory.
+    const bool entry = !place.name.empty() && name.back() != u'\\' && name.back() != u'/';
+    struct stat status;
+    if (!entry || place.kind == EntryKind::kMissing || place.kind == EntryKind::kOther) {
+      return ENOENT;
+    }
+    if (!StatHost(place.host, status)) return errno;
+    const EntryKind kind = S_ISDIR(status.st_mode) ? EntryKind::kDirectory : EntryKind::kFile;
+    if (kind == EntryKind::kFile && !S_ISREG(status.st_mode)) return ENOENT;
+    data.attributes = AttributesOf(kind, place.name);
+    data.name = place.name;
+    return 0;
+  });
+  return error == 0 ? finds_.BeginSingle() : FindHandle::kInvalid;
+}
+
+bool PosixPlatform::FindNextFile(FindHandle handle, FindData& data) {
+  return finds_.Next(handle, data);
+}
+
+void PosixPlatform::FindClose(FindHandle handle) {
+  finds_.Close(handle);
+}
+
+// --- Files --------------------------------------------------------------------------------------
+
+bool PosixPlatform::GetFileStatus(const Text& name, FileStatus& status) {
+  const int error = OnPlace(name, [&](const Place& place) {
+    if (place.kind == EntryKind::kMissing || place.kind == EntryKind::kOther) return ENOENT;
+    struct stat host;
+    if (!StatHost(place.host, host)) return errno;
+    if (!S_ISREG(host.st_mode) && !S_ISDIR(host.st_mode)) return ENOENT;
+    const bool file = S_ISREG(host.st_mode);
+    status.attributes = AttributesOf(file ? EntryKind::kFile : EntryKind::kDirectory, place.name);
+    if (file && (host.st_mode & kAnyWriteBit) == 0) status.attributes |= kAttributeReadOnly;
+    status.length = file ? host.st_size : 0;
+    status.modified = LocalDate(host.st_mtime);
+    return 0;
+  });
+  return error == 0;
+}
+
+FileHandle PosixPlatform::OpenRead(const Text& name) {
+  FileDescriptor file;
+  const int error = OnPlace(name, [&](const Place& place) {
+    if (const int unusable = FileError(place)) return unusable;
+    file = OpenHostFile(place.host);
+    return file.IsOpen() ? 0 : errno;
+  });
+  if (error != 0) Raise(error);
+  return files_.Add(std::move(file));
+}
+
+FileHandle PosixPlatform::OpenWrite(const Text& name) {
+  BeforeWriting();
+  FileDescriptor file;
+  const int error = OnPlace(name, [&](const Place& place) {
+    const int unusable = FileError(place);
+    if (unusable != 0 && unusable != ENOENT) return unusable;
+    file = OpenForWriting(place);
+    return file.IsOpen() ? 0 : errno;
+  });
+  if (error != 0) Raise(error);
+  return files_.Add(std::move(file));
+}
+
+std::size_t PosixPlatform::Read(FileHandle file, void* buffer, std::size_t size) {
+  const std::ptrdiff_t got = ReadFully(files_.Get(file), buffer, size);
+  if (got < 0) Raise(errno);
+  return static_cast<std::size_t>(got);
+}
+
+void PosixPlatform::Write(FileHandle file, const void* data, std::size_t size) {
+  BeforeWriting();
+  if (!WriteFully(files_.Get(file), data, size)) Raise(errno);
+}
+
+void PosixPlatform::Close(FileHandle file) {
+  FileDescriptor descriptor = files_.Take(file);
+  if (!descriptor.IsOpen()) return;
+  if (close(descriptor.Release()) != 0 && errno != EINTR) Raise(errno);
+}
+
+void PosixPlatform::CopyFile(const Text& source, const Text& destination) {
+  BeforeWriting();
+  FileDescriptor from;
+  int error = OnPlace(source, [&](const Place& place) {
+    if (const int unusable = FileError(place)) return unusable;
+    from = OpenHostFile(place.host);
+    return from.IsOpen() ? 0 : errno;
+  });
+  if (error != 0) Raise(error);
+  error = OnPlace(destination, [&](const Place& place) {
+    const int unusable = FileError(place);
+    if (unusable != 0 && unusable != ENOENT) return unusable;
+    Replacement to(place.host);
+    if (!to.Open()) return errno;
+    if (const int failed = CopyContents(from.Get(), to)) return failed;
+    return to.Commit() ? 0 : errno;
+  });
+  if (error != 0) Raise(error);
+}
+
+void PosixPlatform::DeleteFile(const Text& name) {
+  BeforeWriting();
+  const int error = OnPlace(name, [](const Place& place) {
+    if (const int unusable = FileError(place)) return unusable;
+    struct stat status;
+    if (!StatHost(place.host, status)) return errno;
+    if ((status.st_mode & kAnyWriteBit) == 0) return EACCES;
+    return UnlinkHost(place.host) ? 0 : errno;
+  });
+  if (error != 0) Raise(error);
+}
+
+// --- Version records and profile files
+// ------------------------------------------------------------
+
+std::string PosixPlatform::ReadVersionBlock(const Text& name) {
+  std::string block;
+  OnPlace(name, [&](const Place& place) {
+    if (const int unusable = FileError(place)) return unusable;
+    // The listing has told that this is a regular file: no further question, and should it have
+    // become a FIFO meanwhile, opening it does not wait.
+    FileDescriptor file = OpenHostPath(place.host, O_RDONLY | O_NONBLOCK);
+    if (!file.IsOpen()) return errno;
+    FileSource source(std::move(file));
+    block = ReadVersionResource(source);
+    return 0;
+  });
+  return block;
+}
+
+std::uint32_t PosixPlatform::GetFileVersionInfoSize(const Text& name) {
+  version_.name = name;
+  version_.block = ReadVersionBlock(name);
+  return static_cast<std::uint32_t>(version_.block.size());
+}
+
+bool PosixPlatform::GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) {
+  const bool measured = !version_.block.empty() && version_.name == name;
+  block = measured ? std::move(version_.block) : ReadVersionBlock(name);
+  version_ = {};
+  if (block.empty()) return false;
+  block.resize(length, '\0');
+  return true;
+}
+
+std::uint32_t PosixPlatform::GetPrivateProfileString(const Text& section, const Text& key,
+                                                     const Text& fallback, Text& buffer,
+                                                     std::uint32_t size, const Text& file) {
+  std::string bytes;
+  const int error = OnPlace(file, [&](const Place& place) {
+    const int unusable = FileError(place);
+    return unusable != 0 ? unusable : ReadProfile(place.host, bytes);
+  });
+  std::optional<std::string_view> value;
+  if (error == 0) value = FindProfileValue(bytes, section, key);
+  // Without trailing blanks; none but blanks leaves nothing.
+  buffer = value ? FromCp1252(*value) : fallback.substr(0, fallback.find_last_not_of(u' ') + 1);
+  buffer.resize(std::min<std::size_t>(buffer.size(), size == 0 ? 0 : size - 1));
+  return static_cast<std::uint32_t>(buffer.size());
+}
+
+bool PosixPlatform::WritePrivateProfileString(const Text& section, const Text& key,
+                                              const Text& value, const Text& file) {
+  BeforeWriting();
+  const int error = OnPlace(file, [&](const Place& place) {
+    const int unusable = FileError(place);
+    if (unusable != 0 && unusable != ENOENT) return unusable;
+    std::string bytes;
+    if (unusable == 0) {
+      if (const int failed = ReadProfile(place.host, bytes)) return failed;
+    }
+    if (bytes.size() == kMaxProfile) return EFBIG;
+    return ReplaceFile(place.host, WithProfileValue(bytes, section, key, value));
+  });
+  return error == 0;
+}
+
+// --- Drives and directories
+// -----------------------------------------------------------------------
+
+DriveType PosixPlatform::GetDriveType(const Text& root) {
+  const PosixDrive* drive = drives_.FindRoot(root);
+  return drive != nullptr ? drive->type : DriveType::kNoRoot;
+}
+
+std::uint32_t PosixPlatform::GetLogicalDrives() {
+  return drives_.Mask();
+}
+
+Text PosixPlatform::GetVolumeLabel(const Text& root) {
+  const PosixDrive* drive = drives_.FindRoot(root);
+  return drive != nullptr ? drive->label : Text();
+}
+
+std::uint32_t PosixPlatform::GetWindowsDirectory(Text& buffer, std::uint32_t size) {
+  return FillBuffer(setup_.windows_directory, buffer, size);
+}
+
+std::uint32_t PosixPlatform::GetSystemDirectory(Text& buffer, std::uint32_t size) {
+  return FillBuffer(setup_.system_directory, buffer, size);
+}
+
+Text PosixPlatform::GetProgramDirectory() {
+  return setup_.program_directory;
+}
+
+Text PosixPlatform::GetCurrentDirectory() {
+  return drives_.CurrentDirectory();
+}
+
+void PosixPlatform::ChangeDirectory(const Text& directory) {
+  version_ = {};
+  const int error = OnPlace(directory, [](const Place& place) {
+    struct stat status;
+    if (place.kind != EntryKind::kDirectory) return ENOTDIR;
+    if (!StatHost(place.host, status)) return errno;
+    return S_ISDIR(status.st_mode) ? 0 : ENOTDIR;
+  });
+  if (error != 0) Raise(ENOTDIR);
+  drives_.SetDirectory(*drives_.FullName(directory));
+}
+
+void PosixPlatform::ChangeDrive(const Text& drive) {
+  version_ = {};
+  if (drive.empty() || !drives_.SetDrive(drive[0])) Raise(ENODEV);
+}
+
+Text PosixPlatform::GetEnvironmentVariable(const Text& name) {
+  for (const auto& [key, value] : setup_.environment) {
+    if (EqualsNoCase(key, name)) return value;
+  }
+  return {};
+}
+
+// --- System services
+// ------------------------------------------------------------------------------
+
+void PosixPlatform::MessageBeep(std::uint32_t) {}
+
+std::uint32_t PosixPlatform::GetLastError() {
+  return static_cast<std::uint32_t>(last_error_);
+}
+
+Text PosixPlatform::FormatMessage(std::uint32_t code) {
+  return ErrorText(static_cast<int>(code));
+}
+
+double PosixPlatform::Random() {
+  // 53 bits fill a double's mantissa, so that rounding never gives 1.
+  return static_cast<double>(random_() >> 11) * 0x1p-53;
+}
+
+void PosixPlatform::Forget() {
+  names_.Forget();
+  version_ = {};
+}
+
+Text PosixPlatform::NameOfHost(char16_t letter, const std::string& path) {
+  return names_.NameOfHost(*drives_.Find(letter), path);
+}
+
+}  // namespace trovex

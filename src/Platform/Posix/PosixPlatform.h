@@ -1,0 +1,103 @@
+// The port over a POSIX system. Drives are letters mapped to host directories; the program sees
+// "D:\Jeux\SETUP.EXE", and names compare without regard to case.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "Platform/Platform.h"
+#include "Platform/Posix/Drives.h"
+#include "Platform/Posix/FileTable.h"
+#include "Platform/Posix/FindTable.h"
+#include "Platform/Posix/Names.h"
+
+namespace trovex {
+
+// What a PosixPlatform shows of its surroundings. Nothing else of the process is looked at: no
+// environment variable, no current directory.
+struct PosixSetup {
+  std::vector<PosixDrive> drives;
+  // 0: the first of `drives`.
+  char16_t current_drive = 0;
+  // These need not lie on a mapped drive.
+  Text windows_directory = u"C:\\WINDOWS";
+  Text system_directory = u"C:\\WINDOWS\\SYSTEM";
+  Text program_directory = u"C:\\";
+  // Names without regard to case.
+  std::map<Text, Text> environment;
+};
+
+class PosixPlatform : public Platform {
+ public:
+  explicit PosixPlatform(PosixSetup setup);
+  PosixPlatform(const PosixPlatform&) = delete;
+  PosixPlatform& operator=(const PosixPlatform&) = delete;
+
+  FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
+  bool FindNextFile(FindHandle handle, FindData& data) override;
+  void FindClose(FindHandle handle) override;
+  bool GetFileStatus(const Text& name, FileStatus& status) override;
+  FileHandle OpenRead(const Text& name) override;
+  FileHandle OpenWrite(const Text& name) override;
+  std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
+  void Write(FileHandle file, const void* data, std::size_t size) override;
+  void Close(FileHandle file) override;
+  void CopyFile(const Text& source, const Text& destination) override;
+  void DeleteFile(const Text& name) override;
+  std::uint32_t GetFileVersionInfoSize(const Text& name) override;
+  bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) override;
+  std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
+                                        Text& buffer, std::uint32_t size,
+                                        const Text& file) override;
+  bool WritePrivateProfileString(const Text& section, const Text& key, const Text& value,
+                                 const Text& file) override;
+  DriveType GetDriveType(const Text& root) override;
+  std::uint32_t GetLogicalDrives() override;
+  Text GetVolumeLabel(const Text& root) override;
+  std::uint32_t GetWindowsDirectory(Text& buffer, std::uint32_t size) override;
+  std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) override;
+  Text GetProgramDirectory() override;
+  Text GetCurrentDirectory() override;
+  void ChangeDirectory(const Text& directory) override;
+  void ChangeDrive(const Text& drive) override;
+  Text GetEnvironmentVariable(const Text& name) override;
+  void MessageBeep(std::uint32_t type) override;
+  std::uint32_t GetLastError() override;
+  Text FormatMessage(std::uint32_t code) override;
+  double Random() override;
+  void Forget() override;
+
+  // The name by which the program reaches an absolute host path on the drive `letter`, whose root
+  // is in front of it. What is missing keeps its spelling, for a new file to be created so.
+  Text NameOfHost(char16_t letter, const std::string& path);
+
+ private:
+  // The last version record read, kept for the call that fetches what was just measured.
+  struct VersionMemo {
+    Text name;
+    std::string block;
+  };
+  // Runs `use` on the place of a name; if what memory held of it turns out to be gone, once more
+  // on what is found afresh. 0, or the errno of the failure, which GetLastError then knows.
+  template <typename Use>
+  int OnPlace(const Text& name, Use use);
+  [[noreturn]] void Raise(int error);
+  // Forgets what a change of the disk makes wrong.
+  void BeforeWriting() { version_ = {}; }
+  FindHandle FindSingle(const Text& name, FindData& data);
+  std::string ReadVersionBlock(const Text& name);
+
+  Drives drives_;
+  Names names_;
+  FindTable finds_;
+  FileTable files_;
+  PosixSetup setup_;
+  VersionMemo version_;
+  int last_error_ = 0;
+  std::mt19937_64 random_;
+};
+
+}  // namespace trovex

@@ -1,0 +1,23 @@
+// Profile (INI) files as bytes in, bytes out: nothing here touches the disk.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Platform/Text.h"
+
+namespace trovex {
+
+// The value of the first matching key in the first matching section, in Windows-1252, without
+// blanks and tabs at its ends and without one pair of matching quotes; a view into `file`. Nothing
+// where section or key is missing.
+std::optional<std::string_view> FindProfileValue(std::string_view file, TextView section,
+                                                 TextView key);
+
+// `file` with the value in its place: that of the first matching key, else the end of the first
+// matching section, before its trailing empty lines, else a new section at the end. All other
+// lines keep their bytes.
+std::string WithProfileValue(std::string_view file, TextView section, TextView key, TextView value);
+
+}  // namespace trovex
