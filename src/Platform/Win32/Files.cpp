@@ -1,0 +1,250 @@
+// Searches, files and their contents.
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "Platform/Win32/Errors.h"
+#include "Platform/Win32/Names.h"
+#include "Platform/Win32/Win32Platform.h"
+#include "Platform/Win32/Windows.h"
+
+namespace trovex {
+namespace {
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr std::size_t kLargestPiece = 1 << 24;  // of one call of the system
+
+bool IsDirectory(const Text& verbatim) {
+  const DWORD attributes = GetFileAttributesW(Wide(verbatim));
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+// The system refuses a directory as it refuses a file without permission; the program tells them
+// apart.
+[[noreturn]] void RaiseFor(const Text& verbatim, DWORD code) {
+  const ErrorNumber number = ErrorNumberOf(code);
+  if (number == ErrorNumber::kPermissionDenied && IsDirectory(verbatim)) {
+    throw RuntimeError(ErrorNumber::kPathFileAccess);
+  }
+  throw RuntimeError(number);
+}
+
+// The name that the system opens; raises what an unusable one raises.
+Text Openable(const Text& name) {
+  if (name.empty()) throw RuntimeError(ErrorNumber::kFileNotFound);
+  Text verbatim = VerbatimName(name);
+  if (verbatim.empty() || IsDirectory(verbatim)) {
+    throw RuntimeError(ErrorNumber::kPathFileAccess);
+  }
+  return verbatim;
+}
+
+// A file on a disk. What opens as anything else (a pipe of a server) is closed again.
+OwnedFile OpenDiskFile(const Text& verbatim, DWORD access, DWORD share, DWORD disposition) {
+  OwnedFile file = OwnFile(CreateFileW(Wide(verbatim), access, share, nullptr, disposition,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) RaiseFor(verbatim, ::GetLastError());
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) {
+    throw RuntimeError(ErrorNumber::kPathFileAccess);
+  }
+  return file;
+}
+
+OwnedFile OpenSource(const Text& name) {
+  return OpenDiskFile(Openable(name), GENERIC_READ, kShareAll, OPEN_EXISTING);
+}
+
+std::size_t ReadAll(HANDLE file, char* buffer, std::size_t size) {
+  std::size_t done = 0;
+  while (done < size) {
+    const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
+    DWORD count = 0;
+    if (!ReadFile(file, buffer + done, piece, &count, nullptr)) {
+      throw RuntimeError(ErrorNumber::kDeviceIo);
+    }
+    if (count == 0) break;
+    done += count;
+  }
+  return done;
+}
+
+void WriteAll(HANDLE file, const char* data, std::size_t size) {
+  for (std::size_t done = 0; done < size;) {
+    const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
+    DWORD count = 0;
+    if (!WriteFile(file, data + done, piece, &count, nullptr)) {
+      const ErrorNumber number = ErrorNumberOf(::GetLastError());
+      throw RuntimeError(number == ErrorNumber::kDiskFull ? number : ErrorNumber::kDeviceIo);
+    }
+    if (count == 0) throw RuntimeError(ErrorNumber::kDiskFull);
+    done += count;
+  }
+}
+
+void CloseNative(OwnedFile file) {
+  if (!CloseHandle(file.release())) throw RuntimeError(ErrorNumber::kDeviceIo);
+}
+
+// A new file beside another one. Unless it is put in that one's place it goes away again.
+class FileBeside {
+ public:
+  explicit FileBeside(const Text& place) : place_(place) {
+    const Text directory = place.substr(0, place.find_last_of(u'\\') + 1);
+    for (int number = 0; !file_; ++number) {
+      name_ = directory + u"~Trvx" + Decimal(number) + u".tmp";
+      file_ = OwnFile(CreateFileW(Wide(name_), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+      const DWORD code = ::GetLastError();
+      if (!file_ && code != ERROR_FILE_EXISTS) RaiseFor(name_, MissingDirectory(code));
+    }
+  }
+  ~FileBeside() {
+    file_.reset();
+    if (!name_.empty()) DeleteFileW(Wide(name_));
+  }
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+
+  HANDLE Get() const { return file_.get(); }
+
+  void PutInPlace() {
+    CloseNative(std::move(file_));
+    if (!MoveFileExW(Wide(name_), Wide(place_), MOVEFILE_REPLACE_EXISTING)) {
+      RaiseFor(place_, ::GetLastError());
+    }
+    name_.clear();
+  }
+
+ private:
+  // A file that is to be made can only miss its directory.
+  static DWORD MissingDirectory(DWORD code) {
+    return code == ERROR_FILE_NOT_FOUND ? DWORD{ERROR_PATH_NOT_FOUND} : code;
+  }
+
+  Text place_;
+  Text name_;
+  OwnedFile file_;
+};
+
+LocalTime ToLocalTime(const FILETIME& time) {
+  SYSTEMTIME universal = {}, local = {};
+  if (!FileTimeToSystemTime(&time, &universal) ||
+      !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local)) {
+    return {};
+  }
+  return {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
+}
+
+// The attributes and measures of what a name leads to, through links.
+bool Query(const Text& verbatim, WIN32_FILE_ATTRIBUTE_DATA& data) {
+  if (!GetFileAttributesExW(Wide(verbatim), GetFileExInfoStandard, &data)) return false;
+  if (!(data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT)) return true;
+  const OwnedFile file =
+      OwnFile(CreateFileW(Wide(verbatim), FILE_READ_ATTRIBUTES, kShareAll, nullptr, OPEN_EXISTING,
+                          FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  BY_HANDLE_FILE_INFORMATION target;
+  if (!file || !GetFileInformationByHandle(file.get(), &target)) return false;
+  data.dwFileAttributes = target.dwFileAttributes;
+  data.ftLastWriteTime = target.ftLastWriteTime;
+  data.nFileSizeHigh = target.nFileSizeHigh;
+  data.nFileSizeLow = target.nFileSizeLow;
+  return true;
+}
+
+}  // namespace
+
+// --- Directory search -----------------------------------------------------------------------
+
+FindHandle Win32Platform::FindFirstFile(const Text& pattern, FindData& data) {
+  data = {};
+  Search search(pattern);
+  if (!search.Next(data)) return FindHandle::kInvalid;
+  const FindHandle handle{++last_handle_};
+  searches_.emplace(handle, std::move(search));
+  return handle;
+}
+
+bool Win32Platform::FindNextFile(FindHandle handle, FindData& data) {
+  const auto found = searches_.find(handle);
+  return found != searches_.end() && found->second.Next(data);
+}
+
+void Win32Platform::FindClose(FindHandle handle) {
+  searches_.erase(handle);
+}
+
+// --- Files ----------------------------------------------------------------------------------
+
+bool Win32Platform::GetFileStatus(const Text& name, FileStatus& status) {
+  const Text verbatim = VerbatimName(name);
+  WIN32_FILE_ATTRIBUTE_DATA data;
+  if (verbatim.empty() || !Query(verbatim, data)) return false;
+  const bool directory = data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+  const std::int64_t length = std::int64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
+  status.attributes = data.dwFileAttributes;
+  status.length = directory ? 0 : length;
+  status.modified = ToLocalTime(data.ftLastWriteTime);
+  return true;
+}
+
+FileHandle Win32Platform::Keep(OwnedFile file) {
+  const FileHandle handle{++last_handle_};
+  files_.emplace(handle, std::move(file));
+  return handle;
+}
+
+void* Win32Platform::Native(FileHandle file) const {
+  const auto found = files_.find(file);
+  if (found == files_.end()) throw RuntimeError(ErrorNumber::kBadFileNumber);
+  return found->second.get();
+}
+
+FileHandle Win32Platform::OpenRead(const Text& name) {
+  return Keep(OpenSource(name));
+}
+
+// Emptied after it was opened: the system would refuse to create over a hidden file.
+FileHandle Win32Platform::OpenWrite(const Text& name) {
+  const Text verbatim = Openable(name);
+  OwnedFile file = OpenDiskFile(verbatim, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+  if (!SetEndOfFile(file.get())) RaiseFor(verbatim, ::GetLastError());
+  return Keep(std::move(file));
+}
+
+std::size_t Win32Platform::Read(FileHandle file, void* buffer, std::size_t size) {
+  return ReadAll(Native(file), static_cast<char*>(buffer), size);
+}
+
+void Win32Platform::Write(FileHandle file, const void* data, std::size_t size) {
+  WriteAll(Native(file), static_cast<const char*>(data), size);
+}
+
+void Win32Platform::Close(FileHandle file) {
+  const auto found = files_.find(file);
+  if (found == files_.end()) return;
+  OwnedFile native = std::move(found->second);
+  files_.erase(found);
+  CloseNative(std::move(native));
+}
+
+void Win32Platform::CopyFile(const Text& source, const Text& destination) {
+  const OwnedFile from = OpenSource(source);
+  FileBeside copy(Openable(destination));
+  std::array<char, 65536> piece;
+  while (const std::size_t count = ReadAll(from.get(), piece.data(), piece.size())) {
+    WriteAll(copy.Get(), piece.data(), count);
+  }
+  copy.PutInPlace();
+}
+
+void Win32Platform::DeleteFile(const Text& name) {
+  const Text verbatim = Openable(name);
+  if (DeleteFileW(Wide(verbatim))) return;
+  const DWORD code = ::GetLastError();
+  if (ErrorNumberOf(code) == ErrorNumber::kPathNotFound) {
+    throw RuntimeError(ErrorNumber::kFileNotFound);
+  }
+  RaiseFor(verbatim, code);
+}
+
+}  // namespace trovex

@@ -1,0 +1,60 @@
+// Version records and profile files.
+#include <algorithm>
+
+#include "Platform/Win32/Names.h"
+#include "Platform/Win32/Win32Platform.h"
+#include "Platform/Win32/Windows.h"
+
+namespace trovex {
+namespace {
+
+constexpr std::size_t kSmallestRecord = 6;
+
+// The record alone: behind it the system leaves room for its own translations, and its first field
+// is its length.
+std::string RecordOf(const Text& name) {
+  const Text verbatim = VerbatimName(name);
+  if (verbatim.empty()) return {};
+  // The loader takes a plain name where it can be had.
+  const Text& asked = name.size() < MAX_PATH ? name : verbatim;
+  DWORD ignored = 0;
+  const DWORD size = GetFileVersionInfoSizeW(Wide(asked), &ignored);
+  if (size < kSmallestRecord) return {};
+  std::string block(size, '\0');
+  if (!GetFileVersionInfoW(Wide(asked), 0, size, block.data())) return {};
+  const std::size_t length =
+      static_cast<unsigned char>(block[0]) | static_cast<unsigned char>(block[1]) << 8;
+  if (length < kSmallestRecord || length > size) return {};
+  block.resize(length);
+  return block;
+}
+
+}  // namespace
+
+std::uint32_t Win32Platform::GetFileVersionInfoSize(const Text& name) {
+  return static_cast<std::uint32_t>(RecordOf(name).size());
+}
+
+bool Win32Platform::GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) {
+  block = RecordOf(name);
+  if (block.empty()) return false;
+  block.resize(length);
+  return true;
+}
+
+std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const Text& key,
+                                                     const Text& fallback, Text& buffer,
+                                                     std::uint32_t size, const Text& file) {
+  buffer.assign(size, u'\0');
+  const DWORD length = GetPrivateProfileStringW(Wide(section), Wide(key), Wide(fallback),
+                                                Wide(buffer), size, Wide(file));
+  buffer.resize(std::min<std::size_t>(length, size));
+  return static_cast<std::uint32_t>(buffer.size());
+}
+
+bool Win32Platform::WritePrivateProfileString(const Text& section, const Text& key,
+                                              const Text& value, const Text& file) {
+  return WritePrivateProfileStringW(Wide(section), Wide(key), Wide(value), Wide(file)) != 0;
+}
+
+}  // namespace trovex

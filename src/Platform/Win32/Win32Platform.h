@@ -1,0 +1,64 @@
+// The port over Windows itself.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <random>
+
+#include "Platform/Platform.h"
+#include "Platform/Win32/Handles.h"
+#include "Platform/Win32/Search.h"
+
+namespace trovex {
+
+// One instance a process: current directories and the error mode are the process's own. Searches
+// and files left open are closed with the object.
+class Win32Platform : public Platform {
+ public:
+  Win32Platform();
+
+  FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
+  bool FindNextFile(FindHandle handle, FindData& data) override;
+  void FindClose(FindHandle handle) override;
+  bool GetFileStatus(const Text& name, FileStatus& status) override;
+  FileHandle OpenRead(const Text& name) override;
+  FileHandle OpenWrite(const Text& name) override;
+  std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
+  void Write(FileHandle file, const void* data, std::size_t size) override;
+  void Close(FileHandle file) override;
+  void CopyFile(const Text& source, const Text& destination) override;
+  void DeleteFile(const Text& name) override;
+  std::uint32_t GetFileVersionInfoSize(const Text& name) override;
+  bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) override;
+  std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
+                                        Text& buffer, std::uint32_t size,
+                                        const Text& file) override;
+  bool WritePrivateProfileString(const Text& section, const Text& key, const Text& value,
+                                 const Text& file) override;
+  DriveType GetDriveType(const Text& root) override;
+  std::uint32_t GetLogicalDrives() override;
+  Text GetVolumeLabel(const Text& root) override;
+  std::uint32_t GetWindowsDirectory(Text& buffer, std::uint32_t size) override;
+  std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) override;
+  Text GetProgramDirectory() override;
+  Text GetCurrentDirectory() override;
+  void ChangeDirectory(const Text& directory) override;
+  void ChangeDrive(const Text& drive) override;
+  Text GetEnvironmentVariable(const Text& name) override;
+  void MessageBeep(std::uint32_t type) override;
+  std::uint32_t GetLastError() override;
+  Text FormatMessage(std::uint32_t code) override;
+  double Random() override;
+  void Forget() override;
+
+ private:
+  FileHandle Keep(OwnedFile file);
+  void* Native(FileHandle file) const;
+
+  std::map<FindHandle, Search> searches_;
+  std::map<FileHandle, OwnedFile> files_;
+  std::int64_t last_handle_ = 0;
+  std::mt19937_64 random_;
+};
+
+}  // namespace trovex

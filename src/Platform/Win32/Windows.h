@@ -1,0 +1,20 @@
+// <windows.h> for this folder alone, without the macros that would rename the methods of the port.
+// The sources call the functions by their full names, which end in W.
+#pragma once
+
+#include <windows.h>
+
+#undef CopyFile
+#undef DeleteFile
+#undef FindFirstFile
+#undef FindNextFile
+#undef FormatMessage
+#undef GetCurrentDirectory
+#undef GetDriveType
+#undef GetEnvironmentVariable
+#undef GetFileVersionInfo
+#undef GetFileVersionInfoSize
+#undef GetPrivateProfileString
+#undef GetSystemDirectory
+#undef GetWindowsDirectory
+#undef WritePrivateProfileString
