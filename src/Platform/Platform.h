@@ -66,7 +66,8 @@ class Platform {
   // unreadable or nothing matches. Only files, links to files and directories are found: no FIFO,
   // socket or device, and no link to a directory. A level without * and ? finds that one entry.
   // Order: Posix ascending upper-cased names, Win32 the system's. Every valid handle is closed by
-  // FindClose; a second call of FindClose and one on kInvalid do no harm.
+  // FindClose, but one whose search has reached its end holds nothing any more, closed or not; a
+  // second call of FindClose and one on kInvalid do no harm.
   virtual FindHandle FindFirstFile(const Text& pattern, FindData& data) = 0;
   // The next entry; false, and `data` untouched, at the end or on kInvalid.
   virtual bool FindNextFile(FindHandle handle, FindData& data) = 0;

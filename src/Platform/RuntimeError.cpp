@@ -48,6 +48,10 @@ Text ErrorDescription(ErrorNumber number) {
       return u"Valeur de propriété incorrecte";
     case ErrorNumber::kInvalidPicture:
       return u"Image incorrecte";
+    case ErrorNumber::kInvalidRow:
+      return u"Valeur de ligne incorrecte";
+    case ErrorNumber::kInvalidCol:
+      return u"Valeur de colonne incorrecte";
   }
   return {};
 }

@@ -27,6 +27,8 @@ enum class ErrorNumber : int {
   kNoSuchElement = 340,
   kInvalidProperty = 380,
   kInvalidPicture = 481,
+  kInvalidRow = 30009,
+  kInvalidCol = 30010,
 };
 
 // A run-time error: number, source (who raised it) and description. It is caught only where a

@@ -1,0 +1,175 @@
+#include "Lib/FileNumbers.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "Platform/Encoding.h"
+#include "Platform/Platform.h"
+
+namespace trovex {
+namespace {
+
+constexpr int kLastNumber = 511;
+constexpr std::size_t kPiece = 4096;         // bytes read at a time
+constexpr std::size_t kWriteBuffer = 65536;  // bytes written at a time
+
+class OpenFile {
+ public:
+  enum class Mode { kInput, kOutput };
+
+  OpenFile(const Text& name, Mode mode)
+      : name_(name),
+        mode_(mode),
+        handle_(mode == Mode::kInput ? CurrentPlatform().OpenRead(name)
+                                     : CurrentPlatform().OpenWrite(name)) {}
+
+  const Text& Name() const { return name_; }
+  bool IsOutput() const { return mode_ == Mode::kOutput; }
+
+  bool AtEnd() {
+    if (place_ == buffer_.size()) Fill();
+    return buffer_.empty();
+  }
+
+  std::string Line(std::size_t longest) {
+    std::string line;
+    while (!AtEnd()) {
+      const std::size_t end = std::min(buffer_.find_first_of("\r\n", place_), buffer_.size());
+      const std::size_t wanted = longest - std::min(longest, line.size());
+      line.append(buffer_, place_, std::min(end - place_, wanted));
+      place_ = end;
+      if (end < buffer_.size()) {
+        SkipLineEnd();
+        break;
+      }
+    }
+    return line;
+  }
+
+  void Write(std::string_view bytes) {
+    buffer_ += bytes;
+    if (buffer_.size() >= kWriteBuffer) Flush();
+  }
+
+  void Close() {
+    const FileHandle handle = std::exchange(handle_, FileHandle::kInvalid);
+    try {
+      if (IsOutput()) FlushTo(handle);
+    } catch (const RuntimeError&) {
+      CurrentPlatform().Close(handle);
+      throw;
+    }
+    CurrentPlatform().Close(handle);
+  }
+
+ private:
+  void Fill() {
+    buffer_.resize(kPiece);
+    place_ = 0;
+    std::size_t size = 0;
+    try {
+      size = CurrentPlatform().Read(handle_, buffer_.data(), kPiece);
+    } catch (const RuntimeError&) {
+      buffer_.clear();
+      throw;
+    }
+    buffer_.resize(size);
+  }
+
+  void SkipLineEnd() {
+    const bool carriage_return = buffer_[place_++] == '\r';
+    if (carriage_return && !AtEnd() && buffer_[place_] == '\n') ++place_;
+  }
+
+  void Flush() { FlushTo(handle_); }
+
+  void FlushTo(FileHandle handle) {
+    if (buffer_.empty()) return;
+    CurrentPlatform().Write(handle, buffer_.data(), buffer_.size());
+    buffer_.clear();
+  }
+
+  Text name_;
+  Mode mode_;
+  FileHandle handle_;
+  std::string buffer_;  // what was read and not yet given, or what is still to be written
+  std::size_t place_ = 0;
+};
+
+std::map<int, OpenFile>& Files() {
+  static std::map<int, OpenFile> files;
+  return files;
+}
+
+OpenFile& FileOf(int number) {
+  const auto found = Files().find(number);
+  if (found == Files().end()) throw RuntimeError(ErrorNumber::kBadFileNumber);
+  return found->second;
+}
+
+void Open(int number, const Text& name, OpenFile::Mode mode) {
+  if (number < 1 || number > kLastNumber) throw RuntimeError(ErrorNumber::kBadFileNumber);
+  if (Files().contains(number) || IsOpenForOutput(name)) {
+    throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
+  }
+  Files().emplace(std::piecewise_construct, std::forward_as_tuple(number),
+                  std::forward_as_tuple(name, mode));
+}
+
+}  // namespace
+
+int FreeFile() {
+  int number = 1;
+  for (const auto& [taken, file] : Files()) {
+    if (taken != number) break;
+    ++number;
+  }
+  if (number > kLastNumber) throw RuntimeError(ErrorNumber::kTooManyFiles);
+  return number;
+}
+
+void OpenInput(int number, const Text& name) { Open(number, name, OpenFile::Mode::kInput); }
+void OpenOutput(int number, const Text& name) { Open(number, name, OpenFile::Mode::kOutput); }
+
+bool AtEnd(int number) { return FileOf(number).AtEnd(); }
+
+Text LineInput(int number, std::size_t longest) {
+  OpenFile& file = FileOf(number);
+  if (file.AtEnd()) throw RuntimeError(ErrorNumber::kEndOfFile);
+  return FromCp1252(file.Line(longest));
+}
+
+void Print(int number, TextView text) { FileOf(number).Write(ToCp1252(text)); }
+
+void PrintLine(int number, TextView text) {
+  OpenFile& file = FileOf(number);
+  file.Write(ToCp1252(text));
+  file.Write("\r\n");
+}
+
+void CloseFile(int number) {
+  const auto found = Files().find(number);
+  if (found == Files().end()) return;
+  auto node = Files().extract(found);
+  node.mapped().Close();
+}
+
+void CloseAllFiles() {
+  while (!Files().empty()) {
+    try {
+      CloseFile(Files().begin()->first);
+    } catch (const RuntimeError&) {
+      // Whoever ends the program wants it ended.
+    }
+  }
+}
+
+bool IsOpenForOutput(const Text& name) {
+  return std::any_of(Files().begin(), Files().end(), [&](const auto& entry) {
+    return entry.second.IsOutput() && EqualsNoCase(entry.second.Name(), name);
+  });
+}
+
+}  // namespace trovex

@@ -1,0 +1,41 @@
+// Files by number: text files read and written line by line, in Windows-1252.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+
+#include "Platform/Text.h"
+
+namespace trovex {
+
+// The lowest number that no open file bears, from 1; raises kTooManyFiles past 511.
+int FreeFile();
+
+// Open a file under a free number for reading, or for writing from empty. They raise what the
+// platform raises.
+void OpenInput(int number, const Text& name);
+void OpenOutput(int number, const Text& name);
+
+// True at the end of a file that was opened for reading. Raises kDeviceIo.
+bool AtEnd(int number);
+
+inline constexpr std::size_t kWholeLine = std::numeric_limits<std::size_t>::max();
+
+// The next line, without its end (CR LF, CR or LF); only its first `longest` characters are kept,
+// the rest is passed over in pieces. Raises kEndOfFile, kDeviceIo.
+Text LineInput(int number, std::size_t longest = kWholeLine);
+
+// Writes the text as it stands; raises kDiskFull, kDeviceIo, at the latest when closing.
+void Print(int number, TextView text);
+// The same with a line end (CR LF).
+void PrintLine(int number, TextView text);
+
+// Closing a number that is not open does nothing. Raises kDiskFull, kDeviceIo; closed all the same.
+void CloseFile(int number);
+// Closes everything, errors ignored.
+void CloseAllFiles();
+
+// True if a file of that name is open for writing.
+bool IsOpenForOutput(const Text& name);
+
+}  // namespace trovex

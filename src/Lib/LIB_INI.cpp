@@ -1,0 +1,82 @@
+#include "Lib/LIB_INI.h"
+
+#include "Lib/LIB_DIALOGUE.h"
+#include "Lib/LIB_FILE.h"
+#include "Lib/LIB_STRING.h"
+#include "Resources/Strings.h"
+
+namespace trovex {
+namespace {
+
+constexpr std::uint32_t kValueBuffer = 255;  // characters, the terminator included
+
+// Length in bytes; raises kFileNotFound.
+long long LengthOf(const Text& sFichier) {
+  FileStatus status;
+  if (!CurrentPlatform().GetFileStatus(sFichier, status)) {
+    throw RuntimeError(ErrorNumber::kFileNotFound);
+  }
+  return status.length;
+}
+
+bool OnCdRom(const Text& sFichier) {
+  return iTypeLecteur(sFichier.substr(0, 2)) == DriveType::kCdRom;
+}
+
+// The common way of both writers; `sSuite` is what the failure's report says behind the key.
+void Put(const Text& sRoutine, const Text& sSection, const Text& sCle, const Text& sValeur,
+         const Text& sFichier, const Text& sSuite) {
+  if (OnCdRom(sFichier)) return;
+  if (bFichierExiste(sFichier) && LengthOf(sFichier) >= kGrosFichier) {
+    EcritIniGrosFichier(sSection, sCle, sValeur, sFichier);
+    return;
+  }
+  if (CurrentPlatform().WritePrivateProfileString(sSection, sCle, sValeur, sFichier)) return;
+  MessageErreur(sRoutine + u" : " + ResString(StringId::kErreurEcriture) + sFichier + Text(kCrLf) +
+                ResString(StringId::kItem) + sCle + sSuite);
+}
+
+}  // namespace
+
+Text sDernierFichierIni;
+
+Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const Text& sFichier) {
+  try {
+    if (sFichier != sDernierFichierIni && !bFichierExiste(sFichier)) return sDefaut;
+    sDernierFichierIni = sFichier;
+    if (LengthOf(sFichier) >= kGrosFichier) {
+      return sLitIniGrosFichier(sSection, sCle, sDefaut, sFichier);
+    }
+    Text buffer;
+    const std::uint32_t n = CurrentPlatform().GetPrivateProfileString(sSection, sCle, sDefaut,
+                                                                      buffer, kValueBuffer, sFichier);
+    return n == 0 ? sDefaut : Trim(TextView(buffer).substr(0, n));
+  } catch (const RuntimeError&) {
+    return sDefaut;
+  }
+}
+
+bool bLitIni(const Text& sSection, const Text& sCle, bool bDefaut, const Text& sFichier) {
+  return Val(sLitIni(sSection, sCle, bDefaut ? u"-1" : u"0", sFichier)) != 0;
+}
+
+void PutIniString(const Text& sSection, const Text& sCle, const Text& sValeur,
+                  const Text& sFichier) {
+  Put(u"PutIniString()", sSection, sCle, sValeur, sFichier, {});
+}
+
+void PutIniBoolean(const Text& sSection, const Text& sCle, bool bValeur, const Text& sFichier) {
+  const Text sValeur = bValeur ? u"-1" : u"0";
+  Put(u"PutIniBoolean()", sSection, sCle, sValeur, sFichier, u":" + sValeur);
+}
+
+Text sLitWinIni(const Text& sSection, const Text& sCle) {
+  return sLitIni(sSection, sCle, {}, sRepertoireWindows() + u"WIN.INI");
+}
+
+Text vExtensionWinIni(const Text& sExtension) {
+  if (Trimmed(sExtension).empty()) return {};
+  return sGaucheDe(sLitWinIni(u"Extensions", sExtension), u"^");
+}
+
+}  // namespace trovex

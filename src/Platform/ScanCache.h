@@ -1,0 +1,68 @@
+// A platform for the time of one scan: it answers from what it has read of the directories in
+// hand, so that each directory is listed once and each file beside a program is read once.
+#pragma once
+
+#include <list>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "Platform/ForwardingPlatform.h"
+
+namespace trovex {
+
+// Lives for one scan: what changes on the disk meanwhile may go unseen until the next one. Bounded
+// in memory, whatever the tree: the directories on the way down and the last few beside them.
+class ScanCache : public ForwardingPlatform {
+ public:
+  explicit ScanCache(Platform& target);
+  ~ScanCache() override;
+
+  FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
+  bool FindNextFile(FindHandle handle, FindData& data) override;
+  void FindClose(FindHandle handle) override;
+
+  FileHandle OpenRead(const Text& name) override;
+  FileHandle OpenWrite(const Text& name) override;
+  std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
+  void Write(FileHandle file, const void* data, std::size_t size) override;
+  void Close(FileHandle file) override;
+  void CopyFile(const Text& source, const Text& destination) override;
+  void DeleteFile(const Text& name) override;
+
+  std::uint32_t GetFileVersionInfoSize(const Text& name) override;
+  bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) override;
+  std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
+                                        Text& buffer, std::uint32_t size,
+                                        const Text& file) override;
+  bool WritePrivateProfileString(const Text& section, const Text& key, const Text& value,
+                                 const Text& file) override;
+  void Forget() override;
+
+ private:
+  class Listing;
+  class SharedFile;
+  struct Search;
+  struct Reader;
+  struct Record;
+  struct Profile;
+
+  std::shared_ptr<const Listing> ListingOf(TextView directory);
+  FindHandle Begin(Search search, FindData& data);
+  const Record& RecordOf(const Text& name);
+  void DropFiles();
+  void DropAll();
+
+  std::list<std::shared_ptr<const Listing>> listings_;  // the latest first
+  std::map<std::int64_t, Search> searches_;
+  std::map<std::int64_t, Reader> readers_;
+  std::int64_t next_handle_ = 1;
+
+  // What belongs to the directory whose files were asked for last.
+  Text files_of_;
+  std::map<Text, std::shared_ptr<SharedFile>> files_;
+  std::list<Record> records_;  // the first one asked for, then the latest
+  std::list<Profile> profiles_;
+};
+
+}  // namespace trovex

@@ -1,0 +1,196 @@
+#include <algorithm>
+
+#include "Export/LIB_OBJECT_GRID.h"
+#include "Lib/LIB_FILE.h"
+#include "Lib/LIB_INI.h"
+#include "Lib/LIB_STRING.h"
+#include "Lib/Lib_Form.h"
+#include "Resources/Strings.h"
+#include "Scanner/TROVEX_MAIN.h"
+#include "Scanner/TextLines.h"
+#include "Scanner/zFileInfo.h"
+
+namespace trovex {
+namespace {
+
+constexpr int kColDescription = 0;
+constexpr int kColEmplacement = 1;
+constexpr int kColFichier = 2;
+constexpr int kColVersion = 3;
+
+constexpr std::size_t kLongestDescription = 50;  // that stands without dots
+constexpr std::size_t kCut = 95;                 // characters of a description kept
+constexpr std::size_t kDecoration = 10;          // characters in a row that make a line worthless
+
+// Tools of installers, which have no row in any table.
+constexpr TextView kTools[] = {u"_ISDEL.EXE", u"_ISETUP.EXE", u"_MSSETUP.EXE", u"_MSTEST.EXE",
+                               u"EXPAND.EXE"};
+
+bool IsTool(const Text& sFichier) {
+  const Text sMajuscules = ToUpper(sFichier);
+  return std::find(std::begin(kTools), std::end(kTools), sMajuscules) != std::end(kTools);
+}
+
+// The shortened description: from 51 characters on it gets its dots, cut or not.
+Text Shortened(const Text& sDescription) {
+  const Text d = Trim(sDescription);
+  return d.size() > kLongestDescription ? d.substr(0, kCut) + u"..." : d;
+}
+
+// The analysis of one file. The cell in column 0 is the working variable: each source writes it,
+// the next one reads it back.
+class Analysis {
+ public:
+  Analysis(Grid& grid, const Text& sPath, const Text& sFichier)
+      : grid_(grid), sPath_(sPath), sFichier_(sFichier), D_(sAjouteBackslash(sPath)) {}
+
+  void Run() {
+    oInfo_.PutFileName(D_ + Trim(sFichier_));
+    PlaceRow();
+    Put(Shortened(oInfo_.zDescription()));
+    ReadInstallerFiles();
+    if (Current().empty()) ReadTextFiles();
+    const TextView trimmed = Trimmed(Current());
+    if (trimmed.empty() || ToUpper(trimmed) == u"INSTALLSHIELD") ReadTextFilesAgain();
+    PutSizeOrVersion();
+    CleanDescription();
+    FillVersion();
+  }
+
+ private:
+  const Text& Current() const { return grid_.GetText(); }
+  void Put(TextView sTexte) { grid_.SetText(sTexte); }
+  bool Exists(TextView sNom) const { return bFichierExiste(D_ + Text(sNom)); }
+  bool IsArchive() const { return bEstExtension(sFichier_, u"zip"); }
+
+  void PlaceRow() {
+    grid_.SetRow(iGetClearLineGrid(grid_, kColFichier, true, TextView()));
+    grid_.SetCol(kColEmplacement);
+    Put(u" " + sPath_);
+    grid_.SetCol(kColFichier);
+    Put(u" " + ProperCase(sFichier_));
+    grid_.SetCol(kColDescription);
+  }
+
+  // --- Description files of installers: one branch, by which file exists ---
+
+  void ReadInstallerFiles() {
+    if (Exists(u"SETUP.LST")) {
+      RejectBootstrapper();
+      PutIniIfEmpty(u"Setup", u"Title", u"SETUP.LST");
+      PutIniIfEmpty(u"Params", u"WndTitle", u"SETUP.LST");
+      PutIniIfEmpty(u"Windows 95 Params", u"WndTitle", u"SETUP.LST");
+    } else if (Exists(u"SETUP.INI")) {
+      // SETUP.LST is absent here, so this never fills the text; SETUP.INI has its turn later.
+      PutIniIfEmpty(u"Startup", u"AppName", u"SETUP.LST");
+    } else if (Exists(u"INSTALL.INF")) {
+      if (Current().empty()) Put(sLitIni(u"INSTALL", u"APPNAME", {}, D_ + u"INSTALL.INF"));
+    }
+  }
+
+  void RejectBootstrapper() {
+    for (StringId worthless :
+         {StringId::kProgrammeAmorcage, StringId::kMsSetup, StringId::kPasDeVersion}) {
+      if (Current().find(ResString(worthless)) != Text::npos) return Put({});
+    }
+  }
+
+  void PutIniIfEmpty(const Text& sSection, const Text& sCle, TextView sNom) {
+    if (Current().empty()) Put(Trimmed(sLitIni(sSection, sCle, {}, D_ + Text(sNom))));
+  }
+
+  // --- Text files: one branch in each pass, by which file exists ---
+
+  void ReadTextFiles() {
+    if (Exists(u"file_id.diz")) {
+      PutLines(u"file_id.diz", kCut, kCut);
+    } else if (Exists(u"lisezmoi.txt")) {
+      PutLines(u"lisezmoi.txt", kLongestLine, kCut);
+    } else if (Exists(u"readme.txt")) {
+      PutLines(u"readme.txt", kCut, kCut);
+    } else if (!IsArchive()) {
+      // Always the first file of the directory, whichever is being analysed.
+      Put(vNomProduit(D_ + Lib_Form().ListeFichier().List(0)));
+    }
+  }
+
+  void ReadTextFilesAgain() {
+    if (Exists(u"file_id.diz")) {
+      PutLines(u"file_id.diz", kCut, kLongestLine);
+    } else if (Exists(u"SETUP.INI")) {
+      Put(Trimmed(sLitIni(u"Startup", u"AppName", {}, D_ + u"SETUP.INI")));
+    } else {
+      for (const TextView sNom : {u"lisezmoi.txt", u"readme.txt", u"INSTALL.TXT"}) {
+        if (Exists(sNom)) return PutLines(sNom, kCut, kCut);
+      }
+    }
+  }
+
+  // The first line, or where the line check leaves nothing of it the second, each cut to so many
+  // characters.
+  void PutLines(TextView sNom, std::size_t iPremiere, std::size_t iDeuxieme) {
+    const Text sFile = D_ + Text(sNom);
+    PutLine(sPremiereLigne(sFile, iPremiere));
+    CheckLine();
+    if (Current().empty()) PutLine(sDeuxiemeLigne(sFile, iDeuxieme));
+  }
+
+  void PutLine(const Text& sLigne) { Put(Trimmed(sChangeCaractere(sLigne, u"\t", u" "))); }
+
+  // Blanks a decorated line whole, so that the caller goes on to its next source.
+  void CheckLine() {
+    grid_.SetCol(kColDescription);
+    for (const char16_t sign : {u'*', u'#', u'-', u'=', u'_'}) {
+      if (Current().find(Text(kDecoration, sign)) != Text::npos) Put({});
+    }
+  }
+
+  // --- The other cells, and what is left of the description ---
+
+  void PutSizeOrVersion() {
+    if (!IsArchive()) {
+      grid_.SetCol(kColVersion);
+      Put(oInfo_.zVersion());
+      return;
+    }
+    grid_.SetCol(kColDescription);
+    Put(oInfo_.zSizeKo().empty() ? oInfo_.zSize() + u" " + ResString(StringId::kOctets)
+                                 : oInfo_.zSizeKo());
+    grid_.SetCol(kColVersion);
+    Put(oInfo_.zDate());
+  }
+
+  bool IsBlankOrZero() const {
+    const TextView trimmed = Trimmed(Current());
+    return trimmed.empty() || trimmed == u"0";
+  }
+
+  void CleanDescription() {
+    CheckLine();
+    if (!IsBlankOrZero()) return;
+    Put(IsArchive() ? oInfo_.zSizeKo() : Shortened(oInfo_.zDescription()));
+  }
+
+  // The second line of logiciel.txt, such as "Version : 1.2", stands in for a missing version.
+  void FillVersion() {
+    grid_.SetCol(kColVersion);
+    if (!IsBlankOrZero() || !Exists(u"logiciel.txt")) return;
+    const Text sLigne = sDeuxiemeLigne(D_ + u"logiciel.txt");
+    Put(sDroiteDe(sDroiteDe(sLigne, u":"), u" "));
+  }
+
+  Grid& grid_;
+  const Text& sPath_;
+  const Text& sFichier_;
+  const Text D_;
+  zFileInfo oInfo_;
+};
+
+}  // namespace
+
+void AnalyserFichier(Grid& grid, const Text& sPath, const Text& sFichier) {
+  if (IsTool(sFichier)) return;
+  Analysis(grid, sPath, sFichier).Run();
+}
+
+}  // namespace trovex

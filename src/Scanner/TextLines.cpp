@@ -1,0 +1,49 @@
+#include "Scanner/TextLines.h"
+
+#include "Lib/FileNumbers.h"
+#include "Lib/LIB_FILE.h"
+#include "Platform/Encoding.h"
+#include "Resources/Strings.h"
+#include "Scanner/VersionRecord.h"
+
+namespace trovex {
+namespace {
+
+// Line `wanted` (1 or 2); the lines before it are passed over, not kept.
+Text ReadLine(const Text& sFile, int wanted, std::size_t longest) {
+  if (Trimmed(sFile).empty()) return {};
+  const int iFichier = iOuvreLecture(sFile);
+  if (iFichier == -1) return {};
+  Text sLigne;
+  try {
+    for (int line = 1; line <= wanted && !AtEnd(iFichier); ++line) {
+      Text sLue = LineInput(iFichier, line == wanted ? longest : 0);
+      if (line == wanted) sLigne = std::move(sLue);
+    }
+    CloseFile(iFichier);
+  } catch (const RuntimeError& error) {
+    Err().Set(error);
+    CloseFile(iFichier);
+    MessageErreurFichier(sFile, kCodeOuverture);
+  }
+  return sLigne;
+}
+
+}  // namespace
+
+Text sPremiereLigne(const Text& sFile, std::size_t longest) { return ReadLine(sFile, 1, longest); }
+Text sDeuxiemeLigne(const Text& sFile, std::size_t longest) { return ReadLine(sFile, 2, longest); }
+
+Text vNomProduit(const Text& sFile) {
+  constexpr std::size_t kOffset = 12;  // the key, its NUL and no padding
+  if (sFile.empty()) return {};
+  try {
+    const auto value = BehindKey(ReadVersionRecord(sFile), "ProductName", kOffset);
+    if (value) return FromCp1252(*value);
+  } catch (const RuntimeError&) {
+    // The text held so far.
+  }
+  return ResString(StringId::kPasDeNomProduit);
+}
+
+}  // namespace trovex

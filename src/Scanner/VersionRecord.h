@@ -1,0 +1,19 @@
+// The version record of a file as plain 8-bit bytes, searched and not parsed.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "Platform/Text.h"
+
+namespace trovex {
+
+// The raw record; empty where the file has none or it cannot be read.
+std::string ReadVersionRecord(const Text& sFichier);
+
+// All that stands in the record from `offset` characters behind the start of the first occurrence
+// of `key` (exact in case); nothing where the key does not occur.
+std::optional<std::string> BehindKey(const std::string& record, const std::string& key,
+                                     std::size_t offset);
+
+}  // namespace trovex

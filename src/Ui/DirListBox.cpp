@@ -1,0 +1,75 @@
+#include <algorithm>
+
+#include "Ui/Directory.h"
+#include "Ui/FileListBox.h"
+#include "Ui/ListBox.h"
+
+namespace trovex {
+namespace {
+
+bool IsRootPath(TextView path) { return path.size() == 3 && path.ends_with(u":\\"); }
+
+TextView ParentOf(TextView path) {
+  const std::size_t backslash = path.find_last_of(u'\\');
+  if (IsRootPath(path) || backslash == TextView::npos) return {};
+  const TextView parent = path.substr(0, backslash);
+  return parent.ends_with(u':') ? path.substr(0, backslash + 1) : parent;
+}
+
+// "X:" and "x: [LABEL]" name a drive: its current directory is its root here, as no other part of
+// the program leaves a drive's root behind.
+Text Resolved(TextView path) {
+  const bool drive = path.size() >= 2 && path[1] == u':' && (path.size() == 2 || path[2] == u' ');
+  return drive ? Text{ToUpper(path[0]), u':', u'\\'} : WithoutBackslash(path);
+}
+
+}  // namespace
+
+void DirListBox::SetPath(TextView path) {
+  const Text directory = Resolved(path);
+  std::vector<Text> children;
+  const bool found = ReadDirectory(directory, [&](const FindData& entry) {
+    if ((entry.attributes & kAttributeDirectory) != 0) children.push_back(entry.name);
+  });
+  if (!found) {
+    const bool root = IsRootPath(directory);
+    throw RuntimeError(root ? ErrorNumber::kDeviceUnavailable : ErrorNumber::kPathNotFound,
+                       u"DirListBox");
+  }
+  std::stable_sort(children.begin(), children.end(), ListOrder);
+  path_ = directory;
+  children_ = std::move(children);
+  list_index_ = -1;
+  Notify(Property::kList);
+  Raise(on_change);
+}
+
+Text DirListBox::List(int index) const {
+  if (index >= ListCount()) return {};
+  if (index >= 0) return WithBackslash(path_) + children_[static_cast<std::size_t>(index)];
+  TextView directory = path_;
+  for (; index < -1; ++index) directory = ParentOf(directory);
+  return Text(directory);
+}
+
+int DirListBox::Depth() const {
+  int depth = 0;
+  for (TextView parent = ParentOf(path_); !parent.empty(); parent = ParentOf(parent)) ++depth;
+  return depth;
+}
+
+void DirListBox::SetListIndex(int index) {
+  if (index >= ListCount() || index < -1 - Depth()) {
+    throw RuntimeError(ErrorNumber::kInvalidProperty, u"DirListBox");
+  }
+  if (index == list_index_) return;
+  list_index_ = index;
+  Notify(Property::kSelection);
+  Raise(on_click);
+}
+
+void DirListBox::Open() {
+  if (list_index_ != -1) SetPath(List(list_index_));
+}
+
+}  // namespace trovex

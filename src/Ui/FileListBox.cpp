@@ -1,0 +1,63 @@
+#include "Ui/FileListBox.h"
+
+#include <algorithm>
+
+#include "Platform/Pattern.h"
+#include "Ui/Directory.h"
+#include "Ui/ListBox.h"
+
+namespace trovex {
+namespace {
+
+std::vector<TextView> Split(TextView patterns) {
+  std::vector<TextView> result;
+  while (!patterns.empty()) {
+    const std::size_t end = std::min(patterns.find(u';'), patterns.size());
+    if (end > 0) result.push_back(Trimmed(patterns.substr(0, end)));
+    patterns.remove_prefix(std::min(end + 1, patterns.size()));
+  }
+  return result;
+}
+
+}  // namespace
+
+void FileListBox::SetPath(TextView path) {
+  const Text directory = WithoutBackslash(path);
+  Read(directory);
+  path_ = directory;
+  Notify(Property::kList);
+}
+
+void FileListBox::SetPattern(TextView pattern) {
+  pattern_ = pattern;
+  patterns_ = Split(pattern_);
+  if (!path_.empty()) Read(path_);
+  Notify(Property::kList);
+}
+
+const Text& FileListBox::List(int index) const {
+  static const Text none;
+  return index >= 0 && index < ListCount() ? names_[static_cast<std::size_t>(index)] : none;
+}
+
+bool FileListBox::Lists(TextView name, std::uint32_t attributes) const {
+  if ((attributes & kAttributeDirectory) != 0) return false;
+  if ((attributes & kAttributeHidden) != 0 && !hidden_) return false;
+  if ((attributes & kAttributeSystem) != 0 && !system_) return false;
+  return std::any_of(patterns_.begin(), patterns_.end(),
+                     [&](TextView pattern) { return MatchesPattern(name, pattern); });
+}
+
+void FileListBox::Read(const Text& path) {
+  std::vector<Text> names;
+  const bool found = ReadDirectory(path, [&](const FindData& entry) {
+    if (Lists(entry.name, entry.attributes)) names.push_back(entry.name);
+  });
+  if (!found) throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
+  if (!std::is_sorted(names.begin(), names.end(), ListOrder)) {
+    std::stable_sort(names.begin(), names.end(), ListOrder);
+  }
+  names_ = std::move(names);
+}
+
+}  // namespace trovex

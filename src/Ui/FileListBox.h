@@ -1,0 +1,102 @@
+// Lists that show drives, directories and files, as the classic controls do.
+#pragma once
+
+#include <vector>
+
+#include "Platform/Platform.h"
+#include "Ui/Control.h"
+
+namespace trovex {
+
+// The plain names of one directory that match a pattern, in ascending order of their upper-cased
+// texts; no path, no directories. Hidden and system files take part if that is switched on.
+class FileListBox : public Control {
+ public:
+  FileListBox() : Control(ControlKind::kFileListBox) {}
+
+  // Without final backslash but for a root. Setting it reads the directory; raises kPathNotFound,
+  // and keeps the former one, where there is no such directory. An unreadable one gives no entry.
+  const Text& Path() const { return path_; }
+  void SetPath(TextView path);
+  // Several patterns are separated by ';': a name that matches any of them is listed once.
+  // Setting it reads the directory again, if a path was set.
+  const Text& Pattern() const { return pattern_; }
+  void SetPattern(TextView pattern);
+
+  void SetHidden(bool hidden) { hidden_ = hidden; }
+  void SetSystem(bool system) { system_ = system; }
+
+  int ListCount() const { return static_cast<int>(names_.size()); }
+  // An index outside the list gives an empty text.
+  const Text& List(int index) const;
+
+ private:
+  void Read(const Text& path);
+  bool Lists(TextView name, std::uint32_t attributes) const;
+
+  Text path_;
+  Text pattern_ = u"*.*";
+  std::vector<TextView> patterns_ = {u"*.*"};  // views into pattern_
+  bool hidden_ = false;
+  bool system_ = false;
+  std::vector<Text> names_;
+};
+
+// A directory and its children. List(-1) is the path itself, List(-2) its parent and so on up to
+// the root; List(0) and on are the children, all as full names.
+class DirListBox : public Control {
+ public:
+  DirListBox() : Control(ControlKind::kDirListBox) {}
+
+  // Setting it reads the children, sets ListIndex to -1 and raises the change event. "X:" and a
+  // drive list's "x: [LABEL]" stand for the current directory of that drive, or its root. Raises
+  // kPathNotFound, or kDeviceUnavailable where the drive itself is not there; the former path
+  // stays then.
+  const Text& Path() const { return path_; }
+  void SetPath(TextView path);
+
+  int ListCount() const { return static_cast<int>(children_.size()); }
+  // Full name of an entry, empty for an index that has none.
+  Text List(int index) const;
+  // Number of levels above the path: List(-1 - Depth()) is the root.
+  int Depth() const;
+  int ListIndex() const { return list_index_; }
+  // Highlights an entry; raises kInvalidProperty for one that does not exist.
+  void SetListIndex(int index);
+  // What a double click on the highlighted entry does: it becomes the path.
+  void Open();
+
+  Event on_change;
+
+ private:
+  Text path_;
+  std::vector<Text> children_;
+  int list_index_ = -1;
+};
+
+// The drives of the machine, as "d: [LABEL]" or "d:".
+class DriveListBox : public Control {
+ public:
+  DriveListBox() : Control(ControlKind::kDriveListBox) {}
+
+  // Reads the drives anew and selects the current directory's.
+  void Reread();
+  int ListCount() const { return static_cast<int>(drives_.size()); }
+  const Text& List(int index) const;
+  int ListIndex() const { return list_index_; }
+  // What a choice of the user's does; a new value raises the change event.
+  void SetListIndex(int index);
+
+  // The selected entry's text. Setting it takes the first character for the drive's letter, and
+  // raises kDeviceUnavailable if there is no such drive; a new one raises the change event.
+  const Text& Drive() const { return List(list_index_); }
+  void SetDrive(TextView drive);
+
+  Event on_change;
+
+ private:
+  std::vector<Text> drives_;
+  int list_index_ = -1;
+};
+
+}  // namespace trovex

@@ -1,0 +1,87 @@
+// A window of the program: controls built from a table, and the events of its life.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "Ui/FormSpec.h"
+
+namespace trovex {
+
+// Twips that a window's frame adds to its client area.
+inline constexpr Extent kWindowFrame = {120, 420};
+
+class Form : public Control {
+ public:
+  explicit Form(const FormSpec& spec);
+  ~Form() override;
+
+  const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+  // The control of that name (and number); null if there is none of that kind.
+  Control* Find(TextView name, int index = -1) const;
+  // The same for a control that the form's table is known to hold.
+  template <typename T>
+  T& Get(TextView name, int index = -1) const {
+    Control* control = Find(name, index);
+    if (T* typed = dynamic_cast<T*>(control)) return *typed;
+    throw RuntimeError(ErrorNumber::kNoSuchElement, Name());
+  }
+
+  const Text& Caption() const { return caption_; }
+  void SetCaption(TextView caption);
+  bool Sizable() const { return sizable_; }
+
+  // The client area; outer size less the frame, whose measures the view may set.
+  double ScaleWidth() const { return Width() - frame_.width; }
+  double ScaleHeight() const { return Height() - frame_.height; }
+  void SetFrame(Extent frame);
+  bool Minimised() const { return minimised_; }
+  void SetMinimised(bool minimised) { minimised_ = minimised; }
+  // A new outer size, by the program or the user: raises the resize event if it differs.
+  void Resize(double width, double height);
+
+  // Life: the load event runs once before the first showing. Show raises the activation; Unload
+  // raises the unload event and takes the form from the screen and the list of loaded forms.
+  bool Loaded() const { return view_ != nullptr; }
+  void Load();
+  void Show();
+  // Runs until the form is hidden or unloaded.
+  void ShowModal();
+  void Hide();
+  void Unload();
+  // The form takes the foreground.
+  void Activate() { Raise(on_activate); }
+
+  View* GetView() const { return view_; }
+
+  Event on_load;
+  Event on_activate;
+  Event on_resize;
+  Event on_paint;
+  Event on_unload;
+  std::function<void(int key)> on_key_press;
+  std::function<void(int key)> on_key_down;
+
+ protected:
+  View* AttachedView() const override { return view_; }
+
+ private:
+  void Add(const ControlSpec& spec);
+
+  std::vector<std::unique_ptr<Control>> controls_;
+  Text caption_;
+  bool sizable_;
+  Extent frame_ = kWindowFrame;
+  bool minimised_ = false;
+  View* view_ = nullptr;
+};
+
+// The loaded forms, in the order of their loading.
+const std::vector<Form*>& LoadedForms();
+
+// Key codes that forms and controls are told of.
+inline constexpr int kKeyEnter = 13;
+inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeyF1 = 112;
+
+}  // namespace trovex
