@@ -1,0 +1,123 @@
+#include "Apps/trovex-cli/Cli.h"
+
+#include <ostream>
+
+#include "Apps/trovex-cli/Catalogue.h"
+#include "Apps/trovex-cli/Options.h"
+#include "Platform/Encoding.h"
+#include "Platform/Host.h"
+#include "Ui/Directory.h"
+#include "Ui/Headless/HeadlessView.h"
+
+namespace trovex::cli {
+namespace {
+
+// Shows the directory in hand on the terminal's last line, and error boxes on lines of their own.
+class Progress {
+ public:
+  Progress(HeadlessView& view, std::ostream& err, bool shown) : err_(err), shown_(shown) {
+    view.on_repaint = [this](Control& control) { OnRepaint(control); };
+    view.on_box = [this](const Box& box) { OnBox(box); };
+  }
+  ~Progress() { ClearLine(); }
+
+ private:
+  static constexpr std::size_t kLineWidth = 78;
+
+  void OnRepaint(Control& control) {
+    if (!shown_ || control.Kind() != ControlKind::kStatusBar) return;
+    const Text& text = static_cast<StatusBar&>(control).PanelText(u"Msg");
+    ClearLine();
+    err_ << Printable(TextView(text).substr(0, kLineWidth)) << std::flush;
+    line_used_ = !text.empty();
+  }
+
+  void OnBox(const Box& box) {
+    if (box.style != BoxStyle::kErreur) return;
+    ClearLine();
+    err_ << "trovex-cli: " << Printable(OneLine(box.text)) << '\n';
+  }
+
+  static Text OneLine(Text text) {
+    for (char16_t& unit : text) {
+      if (unit == u'\r' || unit == u'\n') unit = u' ';
+    }
+    return text;
+  }
+
+  void ClearLine() {
+    if (line_used_) err_ << "\r\x1B[K" << std::flush;
+    line_used_ = false;
+  }
+
+  std::ostream& err_;
+  bool shown_;
+  bool line_used_ = false;
+};
+
+int Complain(std::ostream& err, const std::string& complaint) {
+  err << complaint << '\n';
+  return kWrongCommandLine;
+}
+
+// The program from its start to the end of its work, on a host and a view that are in place.
+class Session {
+ public:
+  Session(const Options& options, HeadlessView& view) : options_(options), view_(view) {}
+
+  int Work(const Text& start, std::ostream& out) {
+    MainForm form;
+    form.Show();
+    form.ListeRepertoire.SetPath(start);
+    form.Explorer.Press();
+    if (options_.json) {
+      out << ToJson(form, start, view_.Boxes());
+    } else if (!options_.quiet) {
+      PrintTables(form, out);
+    }
+    out.flush();
+    if (!out) throw RuntimeError(ErrorNumber::kDiskFull, u"trovex-cli");
+    return kDone;
+  }
+
+ private:
+  const Options& options_;
+  HeadlessView& view_;
+};
+
+std::string MessageOf(const RuntimeError& error) {
+  return "trovex-cli: erreur d'exécution " + std::to_string(error.Number()) + " : " +
+         Printable(error.Description()) + " (" + Printable(error.Source()) + ")";
+}
+
+}  // namespace
+
+int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
+        bool err_is_terminal) {
+  const Parsed parsed = ParseArguments(arguments);
+  if (!parsed.options) {
+    (parsed.exit_status == 0 ? out : err) << parsed.output;
+    return parsed.exit_status;
+  }
+  const Options& options = *parsed.options;
+  std::string complaint;
+  const auto host = OpenHost(options.directory, static_cast<char16_t>(options.drive), complaint);
+  if (!host) return Complain(err, complaint);
+
+  PlatformScope platform(host->GetPlatform());
+  HeadlessView view;
+  ViewScope view_scope(view);
+  const Text start = options.start ? FromUtf8(*options.start) : host->Start();
+  if (!DirectoryExists(start)) {
+    return Complain(err, "trovex-cli: --start " + Printable(start) + ": no such directory");
+  }
+  try {
+    Progress progress(view, err, err_is_terminal && !options.quiet);
+    return Session(options, view).Work(start, out);
+  } catch (const RuntimeError& error) {
+    err << MessageOf(error) << '\n';
+    return kRuntimeError;
+  }
+}
+
+}  // namespace trovex::cli

@@ -1,0 +1,29 @@
+// The command line of trovex-cli.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace trovex::cli {
+
+struct Options {
+  std::string directory;
+  char drive = 'D';
+  std::optional<std::string> start;
+  bool json = false;
+  bool quiet = false;
+};
+
+// What became of a command line: options to work with, or a text for standard output or, with an
+// exit status other than 0, a line for standard error.
+struct Parsed {
+  std::optional<Options> options;
+  int exit_status = 0;
+  std::string output;
+};
+
+// `arguments` are UTF-8, without the program's name.
+Parsed ParseArguments(const std::vector<std::string>& arguments);
+
+}  // namespace trovex::cli

@@ -1,0 +1,10 @@
+#include <iostream>
+
+#include "Apps/trovex-cli/Cli.h"
+#include "Platform/Console.h"
+
+int main(int argc, char** argv) {
+  trovex::PrepareConsole();
+  return trovex::cli::Run(trovex::CommandLineArguments(argc, argv), std::cout, std::cerr,
+                          trovex::ErrorIsTerminal());
+}

@@ -1,0 +1,73 @@
+#include "Export/LIB_OBJECT_GRID.h"
+#include "Lib/LIB_BUSY.h"
+#include "Platform/ScanCache.h"
+#include "Resources/Strings.h"
+#include "Screen/Events.h"
+
+namespace trovex {
+namespace {
+
+Text StartingDirectory(const MainForm& form) {
+  return form.ListeRepertoire.List(form.ListeRepertoire.ListIndex());
+}
+
+void EnableExports(MainForm& form, bool enabled) {
+  form.ConvertHTML.SetEnabled(enabled);
+  form.Exporter.SetEnabled(enabled);
+  form.Imprimer.SetEnabled(enabled);
+}
+
+void ClearWindow(MainForm& form) {
+  form.ListFichier.Clear();
+  for (int i = 0; i <= 5; ++i) form.TextInfo(i).SetText({});
+  form.PrintTexte.SetVisible(false);
+  form.ImageSelect.SetVisible(false);
+  form.TextInfo(0).SetVisible(false);
+  form.LabelInfo(2).SetVisible(false);
+  EnableExports(form, false);
+  form.IconeFichier.SetPicture({});
+  for (int i = 0; i < kTableCount; ++i) ClearGrid(form.GridLogiciel(i), {});
+  form.Refresh();
+}
+
+void Walk(MainForm& form) {
+  ScanCache cache(CurrentPlatform());
+  PlatformScope scope(cache);
+  ExplorerRepertoire(StartingDirectory(form), true, &form);
+}
+
+// The table with the most rows; of equal ones that of the higher index.
+int LargestTable(MainForm& form) {
+  const int n0 = form.GridLogiciel(0).Rows() - 1;
+  const int n1 = form.GridLogiciel(1).Rows() - 1;
+  const int n2 = form.GridLogiciel(2).Rows() - 1;
+  if (n0 > n1) return n0 > n2 ? 0 : 2;
+  return n1 > n2 ? 1 : 2;
+}
+
+void ShowTable(MainForm& form, int iTableau) {
+  form.ZoneDesTableaux.SetTab(iTableau);
+  Grid& grid = form.GridLogiciel(iTableau);
+  grid.SetCol(2);
+  if (grid.GetText().empty()) {
+    form.TextInfo(6).SetText(u"0");
+    return;
+  }
+  form.TextInfo(6).SetText(Decimal(grid.Rows() - 1));
+  EnableExports(form, true);
+  GridLogiciel_Click(form, iTableau);
+}
+
+}  // namespace
+
+void Explorer_Click(MainForm& form) {
+  BusyOn(ResString(StringId::kExplorationRepertoire) + StartingDirectory(form) + u"...");
+  ClearWindow(form);
+  Walk(form);
+  form.InitTitresTableaux();
+  for (int i = 0; i < kTableCount; ++i) form.GridLogiciel(i).SetRow(1);
+  ShowTable(form, LargestTable(form));
+  BusyOff();
+}
+
+}  // namespace trovex

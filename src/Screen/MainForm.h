@@ -1,0 +1,57 @@
+// The only working window of the program.
+#pragma once
+
+#include <array>
+
+#include "Scanner/TROVEX_MAIN.h"
+#include "Ui/FileListBox.h"
+#include "Ui/Form.h"
+#include "Ui/Grid.h"
+#include "Ui/Label.h"
+#include "Ui/ListBox.h"
+#include "Ui/Picture.h"
+#include "Ui/StatusBar.h"
+#include "Ui/TabControl.h"
+#include "Ui/TextBox.h"
+
+namespace trovex {
+
+// Lends its tables to the scanner and its status bar to the status line for as long as it lives.
+class MainForm : public Form {
+ public:
+  MainForm();
+  ~MainForm() override;
+
+  // Writes the title row of the three tables, their column widths and alignments.
+  void InitTitresTableaux();
+
+  Grid& GridLogiciel(int index) { return *grids_[static_cast<std::size_t>(index)]; }
+  TextBox& TextInfo(int index) { return Get<TextBox>(u"TextInfo", index); }
+  Label& LabelInfo(int index) { return Get<Label>(u"LabelInfo", index); }
+  Shape& ShapeOmbre(int index) { return Get<Shape>(u"ShapeOmbre", index); }
+
+  DriveListBox& ListeDrive;
+  DirListBox& ListeRepertoire;
+  Button& Explorer;
+  Button& ConvertHTML;
+  Button& Exporter;
+  Button& Imprimer;
+  Button& CommandOption;
+  Button& Apropos;
+  Button& Quitter;
+  Image& ImageAppli;
+  PictureBox& IconeFichier;
+  TabControl& ZoneDesTableaux;
+  Button& PrintTexte;
+  ListBox& ListFichier;
+  PictureBox& ImageSelect;
+  StatusBar& PanelAide;
+
+ private:
+  void DressControls();
+  void BindEvents();
+
+  std::array<Grid*, kTableCount> grids_;
+};
+
+}  // namespace trovex
