@@ -5,8 +5,8 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <map>
+#include <sstream>
 #include <string>
 
 #include "support/TestDisc.h"
@@ -20,7 +20,9 @@ using testing::StartsWith;
 
 std::string Contents(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  std::ostringstream bytes;
+  bytes << stream.rdbuf();
+  return bytes.str();
 }
 
 // Every file below `root` by its path from there, with its contents and date.

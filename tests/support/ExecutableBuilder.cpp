@@ -281,11 +281,22 @@ constexpr std::string_view kZipMember = "ZERO.DAT";
 constexpr std::size_t kZipOverhead =
     kZipEndSize + kZipLocalSize + kZipCentralSize + 2 * kZipMember.size();
 
-std::uint32_t CrcOfZeros(std::size_t length) {
-  std::uint32_t crc = 0xFFFFFFFF;
-  for (std::size_t bit = 0; bit < 8 * length; ++bit) {
-    crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320U : 0U);
+// A zero byte leaves the sum to its own lowest byte, which picks one of these.
+constexpr std::array<std::uint32_t, 256> CrcTable() {
+  std::array<std::uint32_t, 256> table{};
+  for (std::uint32_t byte = 0; byte < table.size(); ++byte) {
+    std::uint32_t crc = byte;
+    for (int bit = 0; bit < 8; ++bit) crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320U : 0U);
+    table[byte] = crc;
   }
+  return table;
+}
+
+std::uint32_t CrcOfZeros(std::size_t length) {
+  static constexpr std::array<std::uint32_t, 256> kTable = CrcTable();
+  const std::uint32_t* const table = kTable.data();
+  std::uint32_t crc = 0xFFFFFFFF;
+  for (std::size_t byte = 0; byte < length; ++byte) crc = (crc >> 8) ^ table[crc & 0xFF];
   return ~crc;
 }
 
