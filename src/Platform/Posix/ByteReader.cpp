@@ -2,7 +2,7 @@
 
 #include <limits>
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 // The one overflow check: no offset beyond this is read at, so sums of an offset and a size, or
@@ -47,4 +47,4 @@ bool ByteReader::Copy(std::uint64_t offset, std::size_t size, std::string& bytes
   return false;
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace trovex {
+namespace trovex::posix {
 
 // Where bytes come from.
 class ByteSource {
@@ -53,4 +53,4 @@ class ByteReader {
   char window_[kWindow];
 };
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 bool IsLetter(char16_t unit) {
@@ -39,22 +39,22 @@ void Descend(Text& path, TextView level) {
 
 }  // namespace
 
-Drives::Drives(std::vector<PosixDrive> drives, char16_t current) : drives_(std::move(drives)) {
-  for (PosixDrive& drive : drives_) {
+Drives::Drives(std::vector<Drive> drives, char16_t current) : drives_(std::move(drives)) {
+  for (Drive& drive : drives_) {
     drive.letter = ToUpper(drive.letter);
     drive.root = RealRoot(drive.root);
   }
   current_ = current != 0 ? ToUpper(current) : drives_.empty() ? u'C' : drives_.front().letter;
 }
 
-const PosixDrive* Drives::Find(char16_t letter) const {
-  for (const PosixDrive& drive : drives_) {
+const Drive* Drives::Find(char16_t letter) const {
+  for (const Drive& drive : drives_) {
     if (drive.letter == ToUpper(letter)) return &drive;
   }
   return nullptr;
 }
 
-const PosixDrive* Drives::FindRoot(TextView root) const {
+const Drive* Drives::FindRoot(TextView root) const {
   if (root.empty()) return Find(current_);
   const TextView rest = root.substr(1);
   const bool plain = rest.empty() || rest == u":" || rest == u":\\" || rest == u":/";
@@ -63,7 +63,7 @@ const PosixDrive* Drives::FindRoot(TextView root) const {
 
 std::uint32_t Drives::Mask() const {
   std::uint32_t mask = 0;
-  for (const PosixDrive& drive : drives_) {
+  for (const Drive& drive : drives_) {
     if (IsLetter(drive.letter)) mask |= 1u << (drive.letter - u'A');
   }
   return mask;
@@ -106,4 +106,4 @@ bool Drives::SetDrive(char16_t letter) {
   return true;
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

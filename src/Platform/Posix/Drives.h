@@ -9,9 +9,9 @@
 
 #include "Platform/Platform.h"
 
-namespace trovex {
+namespace trovex::posix {
 
-struct PosixDrive {
+struct Drive {
   char16_t letter = 0;
   std::string root;  // absolute host path of a directory
   DriveType type = DriveType::kFixed;
@@ -21,12 +21,12 @@ struct PosixDrive {
 class Drives {
  public:
   // `current` 0: the first drive.
-  Drives(std::vector<PosixDrive> drives, char16_t current);
+  Drives(std::vector<Drive> drives, char16_t current);
 
   // The drive of a letter in either case; null where none is mapped.
-  const PosixDrive* Find(char16_t letter) const;
+  const Drive* Find(char16_t letter) const;
   // The drive that "X", "X:" or "X:\" names, an empty text the current one; null for all else.
-  const PosixDrive* FindRoot(TextView root) const;
+  const Drive* FindRoot(TextView root) const;
   // Bit 0 for A:.
   std::uint32_t Mask() const;
 
@@ -44,10 +44,10 @@ class Drives {
  private:
   Text& DirectoryOf(char16_t letter) { return directories_[letter - u'A']; }
 
-  std::vector<PosixDrive> drives_;
+  std::vector<Drive> drives_;
   char16_t current_;
   // Current directory of each drive; empty stands for its root.
   std::array<Text, 26> directories_;
 };
 
-}  // namespace trovex
+}  // namespace trovex::posix

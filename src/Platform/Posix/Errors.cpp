@@ -7,7 +7,7 @@
 
 #include "Platform/Encoding.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 ErrorNumber ErrorNumberOf(int error) {
   switch (error) {
@@ -53,4 +53,4 @@ Text ErrorText(int error) {
   return FromUtf8(strerror_l(error, plain));
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

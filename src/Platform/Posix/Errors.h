@@ -4,7 +4,7 @@
 #include "Platform/RuntimeError.h"
 #include "Platform/Text.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // The one place where an errno becomes a run-time error's number.
 ErrorNumber ErrorNumberOf(int error);
@@ -12,4 +12,4 @@ ErrorNumber ErrorNumberOf(int error);
 // The system's text for an errno, the same in every locale.
 Text ErrorText(int error);
 
-}  // namespace trovex
+}  // namespace trovex::posix

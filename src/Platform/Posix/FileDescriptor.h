@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace trovex {
+namespace trovex::posix {
 
 class FileDescriptor {
  public:
@@ -32,4 +32,4 @@ class FileDescriptor {
   int fd_;
 };
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -7,7 +7,7 @@
 #include "Platform/Platform.h"
 #include "Platform/Posix/FileDescriptor.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 class FileTable {
  public:
@@ -37,4 +37,4 @@ class FileTable {
   std::int64_t next_ = 1;
 };
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -2,7 +2,7 @@
 
 #include "Platform/Pattern.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 std::uint32_t AttributesOf(EntryKind kind, TextView name) {
   std::uint32_t attributes = kind == EntryKind::kDirectory ? kAttributeDirectory : 0;
@@ -53,4 +53,4 @@ bool FindTable::Advance(Search& search, FindData& data) {
   return false;
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -8,7 +8,7 @@
 #include "Platform/Platform.h"
 #include "Platform/Posix/Listing.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 class FindTable {
  public:
@@ -41,4 +41,4 @@ class FindTable {
 // What a search tells of an entry.
 std::uint32_t AttributesOf(EntryKind kind, TextView name);
 
-}  // namespace trovex
+}  // namespace trovex::posix

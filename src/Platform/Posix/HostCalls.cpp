@@ -6,7 +6,7 @@
 
 #include <cerrno>
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
@@ -119,4 +119,4 @@ bool WriteFully(int fd, const void* data, std::size_t size) {
   return true;
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -9,7 +9,7 @@
 
 #include "Platform/Posix/FileDescriptor.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // All paths are absolute. What fails says so as the system call does, with the reason in errno.
 FileDescriptor OpenHostPath(const std::string& path, int flags, mode_t mode = 0666);
@@ -29,4 +29,4 @@ FileDescriptor OpenHostFile(const std::string& path);
 std::ptrdiff_t ReadFully(int fd, void* buffer, std::size_t size);
 bool WriteFully(int fd, const void* data, std::size_t size);
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -11,7 +11,7 @@
 #include "Platform/Encoding.h"
 #include "Platform/Posix/HostCalls.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr char16_t kShownBackslash = 0xF05C;
@@ -208,4 +208,4 @@ void Listing::Rename(Record& record, const Text& name) {
   upper_names_ += ToUpper(name);
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -10,7 +10,7 @@
 
 #include "Platform/Text.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 enum class EntryKind : std::uint8_t {
   kMissing,
@@ -76,4 +76,4 @@ inline bool IsHiddenName(TextView name) {
 // The kind of an entry found by its host path; kMissing where there is none.
 EntryKind KindOfHost(const std::string& path);
 
-}  // namespace trovex
+}  // namespace trovex::posix

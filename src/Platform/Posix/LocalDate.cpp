@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 // 1601-01-02 and 9999-12-30 in UTC: a day inside, so that no time zone leaves the range.
@@ -19,4 +19,4 @@ LocalTime LocalDate(std::time_t seconds) {
           fields.tm_hour,        fields.tm_min,     fields.tm_sec};
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -5,9 +5,9 @@
 
 #include "Platform/Platform.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // In local time. Times outside the years 1601 to 9999 become the nearest of them.
 LocalTime LocalDate(std::time_t seconds);
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -4,7 +4,7 @@
 
 #include "Platform/Posix/HostCalls.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr std::size_t kRootLength = 3;  // "D:\"
@@ -178,7 +178,7 @@ std::shared_ptr<const Listing> Names::Read(KnownDirectory& directory) {
   return listing;
 }
 
-Text Names::NameOfHost(const PosixDrive& drive, const std::string& path) {
+Text Names::NameOfHost(const Drive& drive, const std::string& path) {
   Text name = Text{drive.letter, u':'};
   std::string_view rest = std::string_view(path).substr(drive.root.size());
   std::string host = drive.root;
@@ -197,4 +197,4 @@ Text Names::NameOfHost(const PosixDrive& drive, const std::string& path) {
   return name.size() == 2 ? name + u'\\' : name;
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -11,7 +11,7 @@
 #include "Platform/Posix/Drives.h"
 #include "Platform/Posix/Listing.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // Where a name leads.
 struct Place {
@@ -59,7 +59,7 @@ class Names {
   std::shared_ptr<const Listing> List(const Text& directory);
   // The name by which the program reaches `path`, an absolute host path, on a drive whose root is
   // in front of it. Levels that are missing keep their spelling.
-  Text NameOfHost(const PosixDrive& drive, const std::string& path);
+  Text NameOfHost(const Drive& drive, const std::string& path);
   void Forget() { hints_.Clear(); }
 
  private:
@@ -82,4 +82,4 @@ class Names {
   bool hint_failed_ = false;
 };
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -1,6 +1,6 @@
 #include "Platform/Posix/VersionResource.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr std::size_t kNeHeaderSize = 0x40;
@@ -50,4 +50,4 @@ std::string ReadNeVersion(ByteReader& file, std::uint64_t header) {
   return {};
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

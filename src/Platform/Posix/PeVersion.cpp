@@ -3,7 +3,7 @@
 
 #include "Platform/Posix/VersionResource.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr std::size_t kFileHeaderSize = 24;  // signature and file header
@@ -158,4 +158,4 @@ std::string ReadPeVersion(ByteReader& file, std::uint64_t header) {
   return ReadRecord(file, image);
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

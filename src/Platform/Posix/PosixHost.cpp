@@ -48,7 +48,7 @@ std::string Complaint(const std::string& directory) {
     return missing ? "no such directory" : "cannot be read";
   }
   if (!S_ISDIR(status.st_mode)) return "is not a directory";
-  const FileDescriptor opened(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const posix::FileDescriptor opened(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   return opened.IsOpen() ? "" : "cannot be read";
 }
 

@@ -16,6 +16,9 @@
 #include "Platform/Posix/VersionResource.h"
 
 namespace trovex {
+
+using namespace posix;
+
 namespace {
 
 constexpr std::size_t kCopyBuffer = 65536;
@@ -345,7 +348,7 @@ bool PosixPlatform::WritePrivateProfileString(const Text& section, const Text& k
 // -----------------------------------------------------------------------
 
 DriveType PosixPlatform::GetDriveType(const Text& root) {
-  const PosixDrive* drive = drives_.FindRoot(root);
+  const Drive* drive = drives_.FindRoot(root);
   return drive != nullptr ? drive->type : DriveType::kNoRoot;
 }
 
@@ -354,7 +357,7 @@ std::uint32_t PosixPlatform::GetLogicalDrives() {
 }
 
 Text PosixPlatform::GetVolumeLabel(const Text& root) {
-  const PosixDrive* drive = drives_.FindRoot(root);
+  const Drive* drive = drives_.FindRoot(root);
   return drive != nullptr ? drive->label : Text();
 }
 

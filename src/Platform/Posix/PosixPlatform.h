@@ -19,7 +19,7 @@ namespace trovex {
 // What a PosixPlatform shows of its surroundings. Nothing else of the process is looked at: no
 // environment variable, no current directory.
 struct PosixSetup {
-  std::vector<PosixDrive> drives;
+  std::vector<posix::Drive> drives;
   // 0: the first of `drives`.
   char16_t current_drive = 0;
   // These need not lie on a mapped drive.
@@ -90,10 +90,10 @@ class PosixPlatform : public Platform {
   FindHandle FindSingle(const Text& name, FindData& data);
   std::string ReadVersionBlock(const Text& name);
 
-  Drives drives_;
-  Names names_;
-  FindTable finds_;
-  FileTable files_;
+  posix::Drives drives_;
+  posix::Names names_;
+  posix::FindTable finds_;
+  posix::FileTable files_;
   PosixSetup setup_;
   VersionMemo version_;
   int last_error_ = 0;

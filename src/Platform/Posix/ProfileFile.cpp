@@ -2,7 +2,7 @@
 
 #include "Platform/Encoding.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
@@ -131,4 +131,4 @@ std::string WithProfileValue(std::string_view file, TextView section, TextView k
   return result.append(rest);
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -7,7 +7,7 @@
 
 #include "Platform/Text.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // The value of the first matching key in the first matching section, in Windows-1252, without
 // blanks and tabs at its ends and without one pair of matching quotes; a view into `file`. Nothing
@@ -20,4 +20,4 @@ std::optional<std::string_view> FindProfileValue(std::string_view file, TextView
 // lines keep their bytes.
 std::string WithProfileValue(std::string_view file, TextView section, TextView key, TextView value);
 
-}  // namespace trovex
+}  // namespace trovex::posix

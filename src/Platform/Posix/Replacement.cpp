@@ -8,7 +8,7 @@
 
 #include "Platform/Posix/HostCalls.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr int kMaxNames = 100;
@@ -70,4 +70,4 @@ bool Replacement::Commit() {
   return true;
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -5,7 +5,7 @@
 
 #include "Platform/Posix/FileDescriptor.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // Until Commit has succeeded the file is as it was, and afterwards it is complete. A file that
 // exists keeps its permissions; behind a link, the file that it leads to is replaced.
@@ -30,4 +30,4 @@ class Replacement {
   FileDescriptor file_;
 };
 
-}  // namespace trovex
+}  // namespace trovex::posix

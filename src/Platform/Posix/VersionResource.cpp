@@ -1,6 +1,6 @@
 #include "Platform/Posix/VersionResource.h"
 
-namespace trovex {
+namespace trovex::posix {
 namespace {
 
 constexpr std::uint16_t kDosSignature = 0x5A4D;  // "MZ"
@@ -24,4 +24,4 @@ std::string ReadVersionResource(ByteSource& source) {
   return {};
 }
 
-}  // namespace trovex
+}  // namespace trovex::posix

@@ -5,7 +5,7 @@
 
 #include "Platform/Posix/ByteReader.h"
 
-namespace trovex {
+namespace trovex::posix {
 
 // The raw bytes of the version resource (type 16) of an NE executable, or of a PE executable the
 // first name's first language. Empty where there is none, where the file is of another kind, and
@@ -20,4 +20,4 @@ std::string ReadPeVersion(ByteReader& file, std::uint64_t header);
 // Larger records are no version records.
 inline constexpr std::size_t kMaxVersionBlock = 65536;
 
-}  // namespace trovex
+}  // namespace trovex::posix

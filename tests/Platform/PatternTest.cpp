@@ -1,0 +1,55 @@
+#include "Platform/Pattern.h"
+
+#include <gtest/gtest.h>
+
+namespace trovex::test {
+namespace {
+
+TEST(Pattern, StarIsAnyRunAndQuestionMarkOneCharacter) {
+  EXPECT_TRUE(MatchesPattern(u"SETUP.EXE", u"*.exe"));
+  EXPECT_TRUE(MatchesPattern(u"a.b.exe", u"*.EXE"));
+  EXPECT_TRUE(MatchesPattern(u".exe", u"*.exe"));
+  EXPECT_FALSE(MatchesPattern(u"setup.exe2", u"*.exe"));
+  EXPECT_FALSE(MatchesPattern(u"setupexe", u"*.exe"));
+  EXPECT_TRUE(MatchesPattern(u"ab", u"a?"));
+  EXPECT_FALSE(MatchesPattern(u"a", u"a?"));
+  EXPECT_TRUE(MatchesPattern(u"abcXbcd", u"a*bcd"));
+  EXPECT_TRUE(MatchesPattern(u"abc", u"**c*"));
+}
+
+TEST(Pattern, LettersMatchWithoutRegardToCase) {
+  EXPECT_TRUE(MatchesPattern(u"ÉTÉ.txt", u"été.TXT"));
+  EXPECT_FALSE(MatchesPattern(u"ete.txt", u"été.TXT"));
+}
+
+TEST(Pattern, AnyExtensionAlsoMeansNone) {
+  EXPECT_TRUE(MatchesPattern(u"LISEZMOI", u"*.*"));
+  EXPECT_TRUE(MatchesPattern(u"a.b", u"*.*"));
+  EXPECT_TRUE(MatchesPattern(u"LISEZMOI", u"lisez*.*"));
+  EXPECT_TRUE(MatchesPattern(u"LISEZMOI", u"lisezmoi.*"));
+  EXPECT_FALSE(MatchesPattern(u"LISEZMOI", u"autre.*"));
+  EXPECT_FALSE(MatchesPattern(u"LISEZMOI", u"*.t*"));
+  EXPECT_FALSE(MatchesPattern(u"a.b", u"a*b.*"));
+}
+
+TEST(Pattern, EmptyMatchesOnlyEmpty) {
+  EXPECT_TRUE(MatchesPattern(u"", u""));
+  EXPECT_TRUE(MatchesPattern(u"", u"*"));
+  EXPECT_FALSE(MatchesPattern(u"a", u""));
+  EXPECT_FALSE(MatchesPattern(u"", u"?"));
+}
+
+TEST(Pattern, ManyStarsStayCheap) {
+  Text pattern;
+  for (int i = 0; i < 50; ++i) pattern += u"a*";
+  EXPECT_FALSE(MatchesPattern(Text(2000, u'a'), pattern + u"b"));
+}
+
+TEST(Pattern, WildcardsAreSeen) {
+  EXPECT_TRUE(HasWildcard(u"*.exe"));
+  EXPECT_TRUE(HasWildcard(u"a?"));
+  EXPECT_FALSE(HasWildcard(u"setup.exe"));
+}
+
+}  // namespace
+}  // namespace trovex::test

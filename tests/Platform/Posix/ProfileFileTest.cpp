@@ -1,0 +1,91 @@
+#include "Platform/Posix/ProfileFile.h"
+
+#include <gtest/gtest.h>
+
+namespace trovex::test {
+namespace {
+
+using posix::FindProfileValue;
+using posix::WithProfileValue;
+
+TEST(ProfileFile, FindsWithoutRegardToCase) {
+  EXPECT_EQ(FindProfileValue("[Setup]\r\nTitle=Jeu\r\n", u"SETUP", u"title"), "Jeu");
+  EXPECT_EQ(FindProfileValue("[\xC9T\xC9]\r\nCl\xE9=1\r\n", u"été", u"CLÉ"), "1");
+}
+
+TEST(ProfileFile, DropsBlanksTabsAndOnePairOfQuotes) {
+  EXPECT_EQ(FindProfileValue(" [a] \n \tk \t=\t v w \t\n", u"a", u" k "), "v w");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\" v \"", u"a", u"k"), " v ");
+  EXPECT_EQ(FindProfileValue("[a]\nk='v'", u"a", u"k"), "v");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"\"v\"\"", u"a", u"k"), "\"v\"");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"v'", u"a", u"k"), "\"v'");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"", u"a", u"k"), "\"");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"\"", u"a", u"k"), "");
+}
+
+TEST(ProfileFile, TheFirstSectionAndTheFirstKeyCount) {
+  EXPECT_EQ(FindProfileValue("[a]\nk=1\nk=2\n[a]\nk=3", u"a", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[a]\n[b]\nk=2\n[a]\nk=3", u"a", u"k"), std::nullopt);
+}
+
+TEST(ProfileFile, CommentsAndStrayLinesHoldNoKeys) {
+  EXPECT_EQ(FindProfileValue("[a]\n;k=1\n  ; k=2\nk\nk=3", u"a", u"k"), "3");
+  EXPECT_EQ(FindProfileValue("k=1\n[a]\n", u"", u"k"), std::nullopt);
+  EXPECT_EQ(FindProfileValue("k=1\n[a]\n", u"a", u"k"), std::nullopt);
+}
+
+TEST(ProfileFile, ASectionsNameEndsAtItsBracketOrWithTheLine) {
+  EXPECT_EQ(FindProfileValue("[a]b]\nk=1", u"a", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[a \nk=1", u"a", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[]\nk=1", u"", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[", u"", u"k"), std::nullopt);
+}
+
+TEST(ProfileFile, TheValueIsAllBehindTheFirstEqualsSign) {
+  EXPECT_EQ(FindProfileValue("[a]\nk=x=y;z", u"a", u"k"), "x=y;z");
+  EXPECT_EQ(FindProfileValue("[a]\nk=", u"a", u"k"), "");
+  EXPECT_EQ(FindProfileValue("[a]\n=v", u"a", u""), "v");
+}
+
+TEST(ProfileFile, LinesEndInThreeWays) {
+  EXPECT_EQ(FindProfileValue("[a]\rk=1\rl=2", u"a", u"l"), "2");
+  EXPECT_EQ(FindProfileValue("[a]\nk=1\nl=2", u"a", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[a]\r\n\r\nk=1\r\n", u"a", u"k"), "1");
+}
+
+TEST(ProfileFile, NothingComesOfNothing) {
+  EXPECT_EQ(FindProfileValue("", u"a", u"k"), std::nullopt);
+  EXPECT_EQ(FindProfileValue(std::string(3, '\0'), u"a", u"k"), std::nullopt);
+}
+
+TEST(ProfileFile, ReplacesAValueAndLeavesTheRest) {
+  EXPECT_EQ(WithProfileValue(";c\r\n[A]\r\n Key = \"1\"\r\nz=2\r\n", u"a", u"KEY", u"é"),
+            ";c\r\n[A]\r\nKey=\xE9\r\nz=2\r\n");
+  EXPECT_EQ(WithProfileValue("[a]\nk=1\nk=2", u"a", u"k", u"3"), "[a]\nk=3\nk=2");
+  EXPECT_EQ(WithProfileValue("[a]\nk=1", u"a", u"k", u""), "[a]\nk=");
+}
+
+TEST(ProfileFile, AddsAKeyBeforeTheSectionsTrailingEmptyLines) {
+  EXPECT_EQ(WithProfileValue("[a]\r\nk=1\r\n\r\n \r\n[b]\r\nn=1\r\n", u"a", u"n", u"2"),
+            "[a]\r\nk=1\r\nn=2\r\n\r\n \r\n[b]\r\nn=1\r\n");
+  EXPECT_EQ(WithProfileValue("[a]\r\n\r\n[b]\r\n", u"a", u"k", u"1"), "[a]\r\nk=1\r\n\r\n[b]\r\n");
+  EXPECT_EQ(WithProfileValue("[a]\nk=1", u"a", u"n", u"2"), "[a]\nk=1\r\nn=2\r\n");
+}
+
+TEST(ProfileFile, AddsASectionAtTheEnd) {
+  EXPECT_EQ(WithProfileValue("", u"html", u"k", u"-1"), "[html]\r\nk=-1\r\n");
+  EXPECT_EQ(WithProfileValue("[a]\r\nk=1\r\n", u"b", u"k", u"2"), "[a]\r\nk=1\r\n[b]\r\nk=2\r\n");
+  EXPECT_EQ(WithProfileValue("[a]\r\nk=1", u"b", u"k", u"2"), "[a]\r\nk=1\r\n[b]\r\nk=2\r\n");
+}
+
+TEST(ProfileFile, WhatWasWrittenIsReadBack) {
+  // Every cut of a file that has all kinds of lines takes the value in and gives it back.
+  const std::string file = ";x\r\n[a]\rk=1\n[b\r\n\r\n q = \"w\" \r\n[a]\nz";
+  for (std::size_t size = 0; size <= file.size(); ++size) {
+    const std::string written = WithProfileValue(file.substr(0, size), u"b", u"q", u"neuf");
+    EXPECT_EQ(FindProfileValue(written, u"b", u"q"), "neuf") << size;
+  }
+}
+
+}  // namespace
+}  // namespace trovex::test

@@ -1,0 +1,166 @@
+#include "Platform/Posix/VersionResource.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <random>
+
+#include "support/ExecutableBuilder.h"
+
+namespace trovex::test {
+namespace {
+
+using posix::ReadVersionResource;
+
+// A file in memory that counts how often and how much it is read.
+class MemorySource : public posix::ByteSource {
+ public:
+  explicit MemorySource(std::string_view bytes) : bytes_(bytes) {}
+
+  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
+    ++reads;
+    if (offset >= bytes_.size()) return 0;
+    size = std::min(size, bytes_.size() - static_cast<std::size_t>(offset));
+    std::memcpy(buffer, bytes_.data() + offset, size);
+    total += size;
+    return size;
+  }
+
+  int reads = 0;
+  std::size_t total = 0;
+
+ private:
+  std::string_view bytes_;
+};
+
+std::string VersionOf(std::string_view file) {
+  MemorySource source(file);
+  return ReadVersionResource(source);
+}
+
+const VersionStrings kStrings = {{"FileDescription", "Jeu de cartes"}, {"FileVersion", "1.0"}};
+
+struct Sample {
+  const char* name;
+  std::string record, file;
+};
+
+std::vector<Sample> Samples() {
+  const std::string record8 = VersionBlock8(kStrings), record16 = VersionBlock16(kStrings);
+  return {{"NE", record8, NeExecutable(record8, Icon::kPresent)},
+          {"PE", record16, PeExecutable(record16, Icon::kPresent)},
+          {"PE with 8-bit record", record8, PeExecutable(record8)}};
+}
+
+std::uint32_t NumberAt(const std::string& file, std::size_t at, std::size_t size) {
+  std::uint32_t number = 0;
+  std::memcpy(&number, file.data() + at, size);
+  return number;
+}
+
+void SetNumber(std::string& file, std::size_t at, std::uint32_t number, std::size_t size) {
+  std::memcpy(file.data() + at, &number, size);
+}
+
+TEST(VersionResource, FindsTheRecord) {
+  for (const Sample& sample : Samples()) {
+    const std::string found = VersionOf(sample.file);
+    EXPECT_FALSE(found.empty()) << sample.name;
+    EXPECT_TRUE(found.starts_with(sample.record)) << sample.name;
+  }
+}
+
+TEST(VersionResource, AFileCutShortHasTheWholeRecordOrNone) {
+  for (const Sample& sample : Samples()) {
+    const std::string whole = VersionOf(sample.file);
+    for (std::size_t size = 0; size < sample.file.size(); ++size) {
+      const std::string found = VersionOf(std::string_view(sample.file).substr(0, size));
+      EXPECT_TRUE(found.empty() || found == whole) << sample.name << ' ' << size;
+    }
+    EXPECT_EQ(VersionOf(sample.file.substr(0, sample.file.size() / 2)), "") << sample.name;
+  }
+}
+
+TEST(VersionResource, EveryOverwrittenNumberGivesABoundedAnswer) {
+  for (const Sample& sample : Samples()) {
+    for (std::size_t at = 0; at + 4 <= sample.file.size(); ++at) {
+      for (const std::uint32_t number : {0u, 1u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
+        std::string file = sample.file;
+        SetNumber(file, at, number, 4);
+        MemorySource source(file);
+        const std::string found = ReadVersionResource(source);
+        ASSERT_LE(found.size(), posix::kMaxVersionBlock) << sample.name << ' ' << at;
+        ASSERT_TRUE(found.empty() || file.find(found) != std::string::npos) << at;
+        ASSERT_LE(source.reads, 1100) << sample.name << ' ' << at;
+      }
+    }
+  }
+}
+
+TEST(VersionResource, RandomDamageGivesABoundedAnswer) {
+  std::mt19937 random(1997);
+  for (const Sample& sample : Samples()) {
+    for (int round = 0; round < 5000; ++round) {
+      std::string file = sample.file;
+      for (int i = 0; i < 8; ++i) file[random() % file.size()] = static_cast<char>(random());
+      const std::string found = VersionOf(file);
+      ASSERT_LE(found.size(), posix::kMaxVersionBlock);
+      ASSERT_TRUE(found.empty() || file.find(found) != std::string::npos);
+    }
+  }
+}
+
+TEST(VersionResource, OtherFilesHaveNone) {
+  EXPECT_EQ(VersionOf(""), "");
+  EXPECT_EQ(VersionOf("MZ"), "");
+  EXPECT_EQ(VersionOf(DosExecutable()), "");
+  EXPECT_EQ(VersionOf(ZipArchive(100)), "");
+  EXPECT_EQ(VersionOf(NeExecutable({})), "");
+  EXPECT_EQ(VersionOf(PeExecutable({})), "");
+  EXPECT_EQ(VersionOf(NeExecutable({}, Icon::kPresent)), "");
+  EXPECT_EQ(VersionOf(PeExecutable({}, Icon::kPresent)), "");
+}
+
+TEST(VersionResource, AnOs2ProgramHasNone) {
+  std::string file = NeExecutable(VersionBlock8(kStrings));
+  const std::size_t header = NumberAt(file, 0x3C, 4);
+  file[header + 0x36] = 1;
+  EXPECT_EQ(VersionOf(file), "");
+}
+
+TEST(VersionResource, TooManySectionsOrTooLargeARecordGiveNone) {
+  std::string file = PeExecutable(VersionBlock8(kStrings));
+  const std::size_t header = NumberAt(file, 0x3C, 4);
+  SetNumber(file, header + 6, 97, 2);
+  EXPECT_EQ(VersionOf(file), "");
+  const std::string large(posix::kMaxVersionBlock + 1, 'x');
+  EXPECT_EQ(VersionOf(PeExecutable(large)), "");
+  EXPECT_EQ(VersionOf(PeExecutable(large.substr(1))).size(), posix::kMaxVersionBlock);
+}
+
+TEST(VersionResource, ATableThatLeadsToItselfEnds) {
+  std::string file = PeExecutable(VersionBlock8(kStrings));
+  int changed = 0;
+  for (std::size_t at = 0; at + 8 <= file.size(); at += 4) {
+    // The version type's entry, whose table of names becomes the root itself.
+    if (NumberAt(file, at, 4) != 16 || (NumberAt(file, at + 4, 4) & 0x80000000) == 0) continue;
+    SetNumber(file, at + 4, 0x80000000, 4);
+    ++changed;
+  }
+  EXPECT_EQ(changed, 1);
+  EXPECT_EQ(VersionOf(file), "");
+}
+
+TEST(VersionResource, ReadsHeadersTableAndRecordOnly) {
+  for (const Sample& sample : Samples()) {
+    const std::string file = sample.file + std::string(10'000'000, 'x');
+    MemorySource source(file);
+    EXPECT_FALSE(ReadVersionResource(source).empty()) << sample.name;
+    EXPECT_LE(source.reads, 4) << sample.name;
+    EXPECT_LE(source.total, 20000u) << sample.name;
+  }
+}
+
+}  // namespace
+}  // namespace trovex::test
