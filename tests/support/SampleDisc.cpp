@@ -65,6 +65,9 @@ void StarterGames(SampleDiscWriter& disc) {
                 {"[Params]", "WndTitle=", "[Windows 95 Params]", "WndTitle = Tarotine pour 95"});
   disc.Ne("JEUX/ANONYME/SETUP.EXE", Starter());
   disc.TextFile("JEUX/ANONYME/SETUP.LST", {"[Setup]", "Langue=33"});
+  disc.Ne("JEUX/MUET/SETUP.EXE", Starter());
+  disc.TextFile("JEUX/MUET/SETUP.LST", {"[Setup]", "Title="});
+  disc.TextFile("JEUX/MUET/README.TXT", {Row(60, '*')});
   disc.Ne("JEUX/PROPRE/SETUP.EXE", FullRecord("Atelier Cornemousse", "Cornemousse à cheval", "1.03",
                                               "CORNEM", "Cornemousse"));
   disc.TextFile("JEUX/PROPRE/SETUP.LST", {"[Setup]", "Title=Titre qui ne sert pas"});
@@ -97,6 +100,8 @@ void Utilities(SampleDiscWriter& disc) {
   disc.Pe("UTIL/WIN95/REVEIL/SETUP.EXE");
   disc.TextFile("UTIL/WIN95/REVEIL/SETUP.INI", {"[Startup]", "AppName=Jamais affiché"});
   disc.TextFile("UTIL/WIN95/REVEIL/FILE_ID.DIZ", {"Réveil des marmottes, horloge de bureau"});
+  disc.Ne("UTIL/WIN3/SONNETTE/SETUP.EXE", {{"FileVersion", "1.5"}, {"ProductName", ""}});
+  disc.TextFile("UTIL/WIN3/SONNETTE/SETUP.INI", {"[Startup]", "AppName=Sonnette de concierge"});
   disc.Ne("UTIL/WIN3/CALEPIN/INSTALL.EXE", {{"FileVersion", "2.11"}, {"ProductName", "Calepinou"}});
   disc.TextFile("UTIL/WIN3/CALEPIN/INSTALL.INF", {"[INSTALL]", "APPNAME=Calepinou pour Windows 3"});
   disc.Ne("UTIL/WIN3/CALEPIN/EXPAND.EXE");
@@ -169,7 +174,7 @@ void Records(SampleDiscWriter& disc) {
                                                               {"FileVersion", LongLine(length)},
                                                               {"ProductName", "Règle graduée"}});
   }
-  disc.Ne("FICHES/PREMIER/AVANT.EXE", {{"ProductName", "Le produit du premier fichier"}});
+  disc.Ne("FICHES/PREMIER/AVANT.EXE", {{"ProductName", "Le produit du deuxième fichier"}});
   disc.Dos("FICHES/PREMIER/APRES.EXE");
   disc.Dos("FICHES/PREMIER/ZOE.EXE");
   disc.Ne("FICHES/SUIVANT/AVANT.EXE", {{"ProductName", "Une suite"}, {"FileVersion", "0.9"}});
