@@ -10,6 +10,8 @@ std::vector<std::string> CommandLineArguments(int argc, char** argv) {
 
 void PrepareConsole() {}
 
-bool ErrorIsTerminal() { return isatty(STDERR_FILENO) == 1; }
+bool ErrorIsTerminal() {
+  return isatty(STDERR_FILENO) == 1;
+}
 
 }  // namespace trovex

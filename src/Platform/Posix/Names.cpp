@@ -72,7 +72,7 @@ void DirectoryHints::Shrink() {
 std::optional<Place> Names::Find(const Text& name) {
   const std::optional<Text> full = drives_.FullName(name);
   if (!full) {
-    errno = ENOTDIR;
+    errno = name.empty() ? ENOENT : ENOTDIR;
     return std::nullopt;
   }
   const Text upper = ToUpper(*full);

@@ -53,7 +53,7 @@ class Names {
   explicit Names(const Drives& drives) : drives_(drives) {}
 
   // The place of a name; nothing where the directory that should hold it is missing or out of
-  // reach, with the reason in errno: ENOTDIR where a level is missing.
+  // reach, with the reason in errno: ENOTDIR where a level is missing, ENOENT for an empty name.
   std::optional<Place> Find(const Text& name);
   // A directory read afresh; null with the reason in errno.
   std::shared_ptr<const Listing> List(const Text& directory);

@@ -276,7 +276,8 @@ void PosixPlatform::DeleteFile(const Text& name) {
     if ((status.st_mode & kAnyWriteBit) == 0) return EACCES;
     return UnlinkHost(place.host) ? 0 : errno;
   });
-  if (error != 0) Raise(error);
+  // There is no difference between a missing file and one in a missing directory here.
+  if (error != 0) Raise(error == ENOTDIR ? ENOENT : error);
 }
 
 // --- Version records and profile files
@@ -291,7 +292,7 @@ std::string PosixPlatform::ReadVersionBlock(const Text& name) {
     FileDescriptor file = OpenHostPath(place.host, O_RDONLY | O_NONBLOCK);
     if (!file.IsOpen()) return errno;
     FileSource source(std::move(file));
-    block = ReadVersionResource(source);
+    block = ReadVersionRecord(source);
     return 0;
   });
   return block;

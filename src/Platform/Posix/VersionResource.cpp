@@ -9,19 +9,28 @@ constexpr std::uint32_t kPeSignature = 0x4550;   // "PE\0\0"
 
 constexpr std::size_t kDosHeaderSize = 0x40;
 constexpr std::size_t kNewHeaderAt = 0x3C;
+constexpr std::size_t kSmallestRecord = 6;
 
-}  // namespace
-
-std::string ReadVersionResource(ByteSource& source) {
-  ByteReader file(source);
+std::string ReadResource(ByteReader& file) {
   const auto dos = file.At(0, kDosHeaderSize);
   if (!dos || dos->U16(0) != kDosSignature) return {};
   const std::uint64_t header = dos->U32(kNewHeaderAt);
   const auto signature = file.At(header, 4);
   if (!signature) return {};
-  if (signature->U32(0) == kPeSignature) return ReadPeVersion(file, header);
-  if (signature->U16(0) == kNeSignature) return ReadNeVersion(file, header);
+  if (signature->U32(0) == kPeSignature) return ReadPeResource(file, header);
+  if (signature->U16(0) == kNeSignature) return ReadNeResource(file, header);
   return {};
+}
+
+}  // namespace
+
+std::string ReadVersionRecord(ByteSource& source) {
+  ByteReader file(source);
+  std::string record = ReadResource(file);
+  const std::size_t length = ByteView(record).U16(0);
+  if (length < kSmallestRecord || length > record.size()) return {};
+  record.resize(length);
+  return record;
 }
 
 }  // namespace trovex::posix

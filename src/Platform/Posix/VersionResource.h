@@ -7,17 +7,19 @@
 
 namespace trovex::posix {
 
-// The raw bytes of the version resource (type 16) of an NE executable, or of a PE executable the
-// first name's first language. Empty where there is none, where the file is of another kind, and
-// where anything on the way to it is malformed or cut short. What the record itself says is not
-// looked at.
-std::string ReadVersionResource(ByteSource& source);
+// The version record in the version resource (type 16) of an NE executable, or of a PE executable
+// in that of the first name's first language. The record's first field tells its length; what a
+// resource holds behind it is left out. Empty where there is none, where the file is of another
+// kind, and where anything on the way to the record's end is malformed or cut short. What else the
+// record says is not looked at.
+std::string ReadVersionRecord(ByteSource& source);
 
-// The two kinds; `header` is the offset of the new header behind the MS-DOS one.
-std::string ReadNeVersion(ByteReader& file, std::uint64_t header);
-std::string ReadPeVersion(ByteReader& file, std::uint64_t header);
+// The raw resources of the two kinds; `header` is the offset of the new header behind the MS-DOS
+// one.
+std::string ReadNeResource(ByteReader& file, std::uint64_t header);
+std::string ReadPeResource(ByteReader& file, std::uint64_t header);
 
-// Larger records are no version records.
-inline constexpr std::size_t kMaxVersionBlock = 65536;
+// Larger resources are no version resources.
+inline constexpr std::size_t kMaxVersionResource = 65536;
 
 }  // namespace trovex::posix

@@ -11,7 +11,7 @@
 namespace trovex::test {
 namespace {
 
-using posix::ReadVersionResource;
+using posix::ReadVersionRecord;
 
 // A file in memory that counts how often and how much it is read.
 class MemorySource : public posix::ByteSource {
@@ -36,7 +36,7 @@ class MemorySource : public posix::ByteSource {
 
 std::string VersionOf(std::string_view file) {
   MemorySource source(file);
-  return ReadVersionResource(source);
+  return ReadVersionRecord(source);
 }
 
 const VersionStrings kStrings = {{"FileDescription", "Jeu de cartes"}, {"FileVersion", "1.0"}};
@@ -65,9 +65,7 @@ void SetNumber(std::string& file, std::size_t at, std::uint32_t number, std::siz
 
 TEST(VersionResource, FindsTheRecord) {
   for (const Sample& sample : Samples()) {
-    const std::string found = VersionOf(sample.file);
-    EXPECT_FALSE(found.empty()) << sample.name;
-    EXPECT_TRUE(found.starts_with(sample.record)) << sample.name;
+    EXPECT_EQ(VersionOf(sample.file), sample.record) << sample.name;
   }
 }
 
@@ -89,8 +87,8 @@ TEST(VersionResource, EveryOverwrittenNumberGivesABoundedAnswer) {
         std::string file = sample.file;
         SetNumber(file, at, number, 4);
         MemorySource source(file);
-        const std::string found = ReadVersionResource(source);
-        ASSERT_LE(found.size(), posix::kMaxVersionBlock) << sample.name << ' ' << at;
+        const std::string found = ReadVersionRecord(source);
+        ASSERT_LE(found.size(), posix::kMaxVersionResource) << sample.name << ' ' << at;
         ASSERT_TRUE(found.empty() || file.find(found) != std::string::npos) << at;
         ASSERT_LE(source.reads, 1100) << sample.name << ' ' << at;
       }
@@ -105,7 +103,7 @@ TEST(VersionResource, RandomDamageGivesABoundedAnswer) {
       std::string file = sample.file;
       for (int i = 0; i < 8; ++i) file[random() % file.size()] = static_cast<char>(random());
       const std::string found = VersionOf(file);
-      ASSERT_LE(found.size(), posix::kMaxVersionBlock);
+      ASSERT_LE(found.size(), posix::kMaxVersionResource);
       ASSERT_TRUE(found.empty() || file.find(found) != std::string::npos);
     }
   }
@@ -134,9 +132,22 @@ TEST(VersionResource, TooManySectionsOrTooLargeARecordGiveNone) {
   const std::size_t header = NumberAt(file, 0x3C, 4);
   SetNumber(file, header + 6, 97, 2);
   EXPECT_EQ(VersionOf(file), "");
-  const std::string large(posix::kMaxVersionBlock + 1, 'x');
+  std::string large = VersionBlock8(kStrings);
+  large.resize(posix::kMaxVersionResource + 1);
   EXPECT_EQ(VersionOf(PeExecutable(large)), "");
-  EXPECT_EQ(VersionOf(PeExecutable(large.substr(1))).size(), posix::kMaxVersionBlock);
+  large.pop_back();
+  EXPECT_EQ(VersionOf(PeExecutable(large)), VersionBlock8(kStrings));
+}
+
+TEST(VersionResource, ARecordsOwnLengthCounts) {
+  std::string record = VersionBlock8(kStrings);
+  for (const std::size_t length : {std::size_t{0}, std::size_t{5}, std::size_t{0xFFFF}}) {
+    SetNumber(record, 0, static_cast<std::uint32_t>(length), 2);
+    EXPECT_EQ(VersionOf(NeExecutable(record)), "") << length;
+    EXPECT_EQ(VersionOf(PeExecutable(record)), "") << length;
+  }
+  SetNumber(record, 0, 40, 2);
+  EXPECT_EQ(VersionOf(NeExecutable(record)), record.substr(0, 40));
 }
 
 TEST(VersionResource, ATableThatLeadsToItselfEnds) {
@@ -156,7 +167,7 @@ TEST(VersionResource, ReadsHeadersTableAndRecordOnly) {
   for (const Sample& sample : Samples()) {
     const std::string file = sample.file + std::string(10'000'000, 'x');
     MemorySource source(file);
-    EXPECT_FALSE(ReadVersionResource(source).empty()) << sample.name;
+    EXPECT_FALSE(ReadVersionRecord(source).empty()) << sample.name;
     EXPECT_LE(source.reads, 4) << sample.name;
     EXPECT_LE(source.total, 20000u) << sample.name;
   }

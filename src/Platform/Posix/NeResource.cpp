@@ -23,13 +23,13 @@ std::string ReadRecord(ByteReader& file, std::uint64_t at, unsigned shift) {
   const std::uint64_t offset = std::uint64_t{resource->U16(0)} << shift;
   const std::uint64_t length = std::uint64_t{resource->U16(2)} << shift;
   std::string record;
-  if (length <= kMaxVersionBlock) file.Copy(offset, static_cast<std::size_t>(length), record);
+  if (length <= kMaxVersionResource) file.Copy(offset, static_cast<std::size_t>(length), record);
   return record;
 }
 
 }  // namespace
 
-std::string ReadNeVersion(ByteReader& file, std::uint64_t header) {
+std::string ReadNeResource(ByteReader& file, std::uint64_t header) {
   const auto ne = file.At(header, kNeHeaderSize);
   if (!ne || (ne->U16(kTargetSystemAt) & 0xFF) == kTargetOs2) return {};
   // A file without resources lets both tables begin at the same place.

@@ -136,7 +136,7 @@ std::string ReadRecord(ByteReader& file, const Image& image) {
   const auto languages = names ? tree.FirstTable(*names) : std::nullopt;
   const auto leaf = languages ? tree.FirstLeaf(*languages) : std::nullopt;
   const auto data = leaf ? tree.Leaf(*leaf) : std::nullopt;
-  if (!data || data->U32(4) > kMaxVersionBlock) return {};
+  if (!data || data->U32(4) > kMaxVersionResource) return {};
   const std::uint32_t size = data->U32(4);
   std::uint64_t offset = 0;
   std::string record;
@@ -146,7 +146,7 @@ std::string ReadRecord(ByteReader& file, const Image& image) {
 
 }  // namespace
 
-std::string ReadPeVersion(ByteReader& file, std::uint64_t header) {
+std::string ReadPeResource(ByteReader& file, std::uint64_t header) {
   const auto file_header = file.At(header, kFileHeaderSize);
   if (!file_header) return {};
   const std::size_t sections = file_header->U16(kSectionCountAt);
