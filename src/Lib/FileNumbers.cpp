@@ -33,18 +33,22 @@ class OpenFile {
     return buffer_.empty();
   }
 
-  std::string Line(std::size_t longest) {
+  // What is left of the line in hand, at most `longest` bytes; the rest and the end stay.
+  std::string Start(std::size_t longest) {
     std::string line;
-    while (!AtEnd()) {
-      const std::size_t end = std::min(buffer_.find_first_of("\r\n", place_), buffer_.size());
-      const std::size_t wanted = longest - std::min(longest, line.size());
-      line.append(buffer_, place_, std::min(end - place_, wanted));
-      place_ = end;
-      if (end < buffer_.size()) {
-        SkipLineEnd();
-        break;
-      }
+    while (line.size() < longest && !AtEnd()) {
+      const std::size_t end = LineEnd();
+      const std::size_t taken = std::min(end - place_, longest - line.size());
+      line.append(buffer_, place_, taken);
+      place_ += taken;
+      if (place_ < buffer_.size()) break;
     }
+    return line;
+  }
+
+  std::string Line(std::size_t longest) {
+    std::string line = Start(longest);
+    PassLine();
     return line;
   }
 
@@ -76,6 +80,18 @@ class OpenFile {
       throw;
     }
     buffer_.resize(size);
+  }
+
+  // Where the line in hand ends within the buffer.
+  std::size_t LineEnd() const {
+    return std::min(buffer_.find_first_of("\r\n", place_), buffer_.size());
+  }
+
+  void PassLine() {
+    while (!AtEnd()) {
+      place_ = LineEnd();
+      if (place_ < buffer_.size()) return SkipLineEnd();
+    }
   }
 
   void SkipLineEnd() {
@@ -130,10 +146,16 @@ int FreeFile() {
   return number;
 }
 
-void OpenInput(int number, const Text& name) { Open(number, name, OpenFile::Mode::kInput); }
-void OpenOutput(int number, const Text& name) { Open(number, name, OpenFile::Mode::kOutput); }
+void OpenInput(int number, const Text& name) {
+  Open(number, name, OpenFile::Mode::kInput);
+}
+void OpenOutput(int number, const Text& name) {
+  Open(number, name, OpenFile::Mode::kOutput);
+}
 
-bool AtEnd(int number) { return FileOf(number).AtEnd(); }
+bool AtEnd(int number) {
+  return FileOf(number).AtEnd();
+}
 
 Text LineInput(int number, std::size_t longest) {
   OpenFile& file = FileOf(number);
@@ -141,7 +163,15 @@ Text LineInput(int number, std::size_t longest) {
   return FromCp1252(file.Line(longest));
 }
 
-void Print(int number, TextView text) { FileOf(number).Write(ToCp1252(text)); }
+Text LineStart(int number, std::size_t longest) {
+  OpenFile& file = FileOf(number);
+  if (file.AtEnd()) throw RuntimeError(ErrorNumber::kEndOfFile);
+  return FromCp1252(file.Start(longest));
+}
+
+void Print(int number, TextView text) {
+  FileOf(number).Write(ToCp1252(text));
+}
 
 void PrintLine(int number, TextView text) {
   OpenFile& file = FileOf(number);

@@ -25,6 +25,10 @@ inline constexpr std::size_t kWholeLine = std::numeric_limits<std::size_t>::max(
 // the rest is passed over in pieces. Raises kEndOfFile, kDeviceIo.
 Text LineInput(int number, std::size_t longest = kWholeLine);
 
+// The first `longest` characters of the next line, or all of it if it is shorter. Nothing behind
+// them is read, however long the line; what is read next begins there. Raises as LineInput.
+Text LineStart(int number, std::size_t longest);
+
 // Writes the text as it stands; raises kDiskFull, kDeviceIo, at the latest when closing.
 void Print(int number, TextView text);
 // The same with a line end (CR LF).

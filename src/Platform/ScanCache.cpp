@@ -9,11 +9,11 @@
 namespace trovex {
 namespace {
 
-constexpr std::size_t kListings = 8;        // directories kept beside those being walked
-constexpr std::size_t kRecords = 8;         // version records kept
-constexpr std::size_t kProfiles = 32;       // profile answers kept
-constexpr std::size_t kSharedFiles = 16;    // files kept open for a directory
-constexpr std::size_t kSharedBytes = 65536; // of each file
+constexpr std::size_t kListings = 8;         // directories kept beside those being walked
+constexpr std::size_t kRecords = 8;          // version records kept
+constexpr std::size_t kProfiles = 32;        // profile answers kept
+constexpr std::size_t kSharedFiles = 16;     // files kept open for a directory
+constexpr std::size_t kSharedBytes = 65536;  // of each file
 
 // A handle of the cache's own stands above those of the platform beneath, which pass through.
 constexpr std::int64_t kOwnHandles = std::int64_t{1} << 60;
@@ -34,7 +34,9 @@ int Compare(TextView a, TextView b) {
   return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
 }
 
-bool MatchesAll(TextView pattern) { return pattern == u"*.*" || pattern == u"*"; }
+bool MatchesAll(TextView pattern) {
+  return pattern == u"*.*" || pattern == u"*";
+}
 
 }  // namespace
 
@@ -68,10 +70,9 @@ class ScanCache::Listing {
 
   // Number of the entry of that name, Size() if there is none.
   std::size_t Find(TextView name) const {
-    const auto found = std::lower_bound(sorted_.begin(), sorted_.end(), name,
-                                        [&](std::uint32_t i, TextView wanted) {
-                                          return Compare(Name(i), wanted) < 0;
-                                        });
+    const auto found = std::lower_bound(
+        sorted_.begin(), sorted_.end(), name,
+        [&](std::uint32_t i, TextView wanted) { return Compare(Name(i), wanted) < 0; });
     const bool hit = found != sorted_.end() && Compare(Name(*found), name) == 0;
     return hit ? *found : Size();
   }
@@ -141,7 +142,7 @@ class ScanCache::SharedFile {
 
   // Up to `size` bytes at `place`, which must not lie beyond the bytes kept.
   std::size_t Copy(std::size_t place, void* buffer, std::size_t size) {
-    while (place == bytes_.size() && !at_end_) ReadMore(size);
+    while (size > 0 && place == bytes_.size() && !at_end_) ReadMore(size);
     const std::size_t given = std::min(size, bytes_.size() - place);
     std::memcpy(buffer, bytes_.data() + place, given);
     return given;
@@ -187,7 +188,9 @@ struct ScanCache::Profile {
   Text answer;
 };
 
-ScanCache::ScanCache(Platform& target) : ForwardingPlatform(target) { Target().Forget(); }
+ScanCache::ScanCache(Platform& target) : ForwardingPlatform(target) {
+  Target().Forget();
+}
 
 ScanCache::~ScanCache() {
   for (auto& [handle, reader] : readers_) {
@@ -317,7 +320,12 @@ const ScanCache::Record& ScanCache::RecordOf(const Text& name) {
   const auto known = std::find_if(records_.begin(), records_.end(), [&](const Record& record) {
     return EqualsNoCase(record.name, name);
   });
-  if (known != records_.end()) return *known;
+  if (known != records_.end()) {
+    // A record that is asked for again behind later ones is the one that the directory comes back
+    // to: it takes the protected place.
+    if (std::next(known) != records_.end()) records_.splice(records_.begin(), records_, known);
+    return *known;
+  }
   Record record{name, {}};
   const std::uint32_t length = Target().GetFileVersionInfoSize(name);
   if (length > 0 && !Target().GetFileVersionInfo(name, length, record.block)) record.block.clear();

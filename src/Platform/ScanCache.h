@@ -61,7 +61,7 @@ class ScanCache : public ForwardingPlatform {
   // What belongs to the directory whose files were asked for last.
   Text files_of_;
   std::map<Text, std::shared_ptr<SharedFile>> files_;
-  std::list<Record> records_;  // the first one asked for, then the latest
+  std::list<Record> records_;  // the one that is come back to, then the latest
   std::list<Profile> profiles_;
 };
 

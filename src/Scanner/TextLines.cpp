@@ -9,17 +9,16 @@
 namespace trovex {
 namespace {
 
-// Line `wanted` (1 or 2); the lines before it are passed over, not kept.
+// Line `wanted` (1 or 2). The lines before it are passed over, not kept, and nothing is read behind
+// what is wanted: a large file without line ends costs no more than a small one.
 Text ReadLine(const Text& sFile, int wanted, std::size_t longest) {
   if (Trimmed(sFile).empty()) return {};
   const int iFichier = iOuvreLecture(sFile);
   if (iFichier == -1) return {};
   Text sLigne;
   try {
-    for (int line = 1; line <= wanted && !AtEnd(iFichier); ++line) {
-      Text sLue = LineInput(iFichier, line == wanted ? longest : 0);
-      if (line == wanted) sLigne = std::move(sLue);
-    }
+    for (int line = 1; line < wanted && !AtEnd(iFichier); ++line) LineInput(iFichier, 0);
+    if (!AtEnd(iFichier)) sLigne = LineStart(iFichier, longest);
     CloseFile(iFichier);
   } catch (const RuntimeError& error) {
     Err().Set(error);
@@ -31,8 +30,12 @@ Text ReadLine(const Text& sFile, int wanted, std::size_t longest) {
 
 }  // namespace
 
-Text sPremiereLigne(const Text& sFile, std::size_t longest) { return ReadLine(sFile, 1, longest); }
-Text sDeuxiemeLigne(const Text& sFile, std::size_t longest) { return ReadLine(sFile, 2, longest); }
+Text sPremiereLigne(const Text& sFile, std::size_t longest) {
+  return ReadLine(sFile, 1, longest);
+}
+Text sDeuxiemeLigne(const Text& sFile, std::size_t longest) {
+  return ReadLine(sFile, 2, longest);
+}
 
 Text vNomProduit(const Text& sFile) {
   constexpr std::size_t kOffset = 12;  // the key, its NUL and no padding

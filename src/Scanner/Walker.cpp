@@ -4,6 +4,7 @@
 #include "Lib/Lib_Form.h"
 #include "Resources/Strings.h"
 #include "Scanner/TROVEX_MAIN.h"
+#include "Ui/Directory.h"
 
 namespace trovex {
 namespace {
@@ -18,8 +19,12 @@ Table TableOf(const Text& sFichier) {
   return bEstExtension(sFichier, u"zip") ? Table::kArchives : Table::kExecutables;
 }
 
-bool IsDirectory(const FindData& entry) { return (entry.attributes & kAttributeDirectory) != 0; }
-bool IsDots(TextView name) { return name == u"." || name == u".."; }
+bool IsDirectory(const FindData& entry) {
+  return (entry.attributes & kAttributeDirectory) != 0;
+}
+bool IsDots(TextView name) {
+  return name == u"." || name == u"..";
+}
 
 // The name of a subdirectory as all paths below the start carry it.
 Text DirectoryName(const FindData& entry) {
@@ -34,14 +39,16 @@ void VisitSubdirectory(const Text& sEnfant, Control* ctlRafraichir) {
 
 }  // namespace
 
-void RegisterTables(const std::array<Grid*, kTableCount>& tables) { tables_in_use = tables; }
+void RegisterTables(const std::array<Grid*, kTableCount>& tables) {
+  tables_in_use = tables;
+}
 
 void ExplorerRepertoire(const Text& sPath, bool bListerDabord, Control* ctlRafraichir) {
   if (sPath.empty()) return;
   MainMsg(ResString(StringId::kExplorationRepertoire) + sPath + u"...");
   if (bListerDabord) ClasserFichiers(sPath);
 
-  Text sMotif = sAjouteBackslash(sPath) + u"*.*";
+  Text sMotif = WithBackslash(sPath) + u"*.*";
   FindData entry;
   const FindHandle handle = CurrentPlatform().FindFirstFile(sMotif, entry);
   if (handle == FindHandle::kNone) return;

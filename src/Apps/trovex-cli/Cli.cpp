@@ -55,6 +55,17 @@ class Progress {
   bool line_used_ = false;
 };
 
+// No form outlives the view that it was loaded into.
+class FormsScope {
+ public:
+  FormsScope() = default;
+  ~FormsScope() {
+    while (!LoadedForms().empty()) LoadedForms().back()->Unload();
+  }
+  FormsScope(const FormsScope&) = delete;
+  FormsScope& operator=(const FormsScope&) = delete;
+};
+
 int Complain(std::ostream& err, const std::string& complaint) {
   err << complaint << '\n';
   return kWrongCommandLine;
@@ -107,6 +118,7 @@ int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
   PlatformScope platform(host->GetPlatform());
   HeadlessView view;
   ViewScope view_scope(view);
+  FormsScope forms;
   const Text start = options.start ? FromUtf8(*options.start) : host->Start();
   if (!DirectoryExists(start)) {
     return Complain(err, "trovex-cli: --start " + Printable(start) + ": no such directory");
