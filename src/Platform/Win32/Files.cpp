@@ -19,12 +19,18 @@ bool IsDirectory(const Text& verbatim) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-// The system refuses a directory as it refuses a file without permission; the program tells them
-// apart.
+bool IsDirectoryMissing(const Text& verbatim) {
+  return !IsDirectory(verbatim.substr(0, verbatim.find_last_of(u'\\') + 1));
+}
+
+// The system refuses a directory as it refuses a file without permission, and does not always tell
+// a missing file from a missing directory or drive; the program does.
 [[noreturn]] void RaiseFor(const Text& verbatim, DWORD code) {
-  const ErrorNumber number = ErrorNumberOf(code);
+  ErrorNumber number = ErrorNumberOf(code);
   if (number == ErrorNumber::kPermissionDenied && IsDirectory(verbatim)) {
-    throw RuntimeError(ErrorNumber::kPathFileAccess);
+    number = ErrorNumber::kPathFileAccess;
+  } else if (number == ErrorNumber::kFileNotFound && IsDirectoryMissing(verbatim)) {
+    number = ErrorNumber::kPathNotFound;
   }
   throw RuntimeError(number);
 }
@@ -95,7 +101,7 @@ class FileBeside {
       file_ = OwnFile(CreateFileW(Wide(name_), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                   FILE_ATTRIBUTE_NORMAL, nullptr));
       const DWORD code = ::GetLastError();
-      if (!file_ && code != ERROR_FILE_EXISTS) RaiseFor(name_, MissingDirectory(code));
+      if (!file_ && code != ERROR_FILE_EXISTS) RaiseFor(name_, code);
     }
   }
   ~FileBeside() {
@@ -116,11 +122,6 @@ class FileBeside {
   }
 
  private:
-  // A file that is to be made can only miss its directory.
-  static DWORD MissingDirectory(DWORD code) {
-    return code == ERROR_FILE_NOT_FOUND ? DWORD{ERROR_PATH_NOT_FOUND} : code;
-  }
-
   Text place_;
   Text name_;
   OwnedFile file_;
@@ -241,7 +242,8 @@ void Win32Platform::DeleteFile(const Text& name) {
   const Text verbatim = Openable(name);
   if (DeleteFileW(Wide(verbatim))) return;
   const DWORD code = ::GetLastError();
-  if (ErrorNumberOf(code) == ErrorNumber::kPathNotFound) {
+  const ErrorNumber number = ErrorNumberOf(code);
+  if (number == ErrorNumber::kFileNotFound || number == ErrorNumber::kPathNotFound) {
     throw RuntimeError(ErrorNumber::kFileNotFound);
   }
   RaiseFor(verbatim, code);
