@@ -65,6 +65,30 @@ class ForwardingPlatform : public Platform {
   Text GetEnvironmentVariable(const Text& name) override {
     return target_.GetEnvironmentVariable(name);
   }
+  int ShellExecute(const Text& verb, const Text& file, const Text& parameters,
+                   const Text& directory, int show) override {
+    return target_.ShellExecute(verb, file, parameters, directory, show);
+  }
+  int FindExecutable(const Text& file, const Text& directory, Text& buffer) override {
+    return target_.FindExecutable(file, directory, buffer);
+  }
+  void StartProgram(const Text& command_line, int mode) override {
+    target_.StartProgram(command_line, mode);
+  }
+  int ExtractIconEx(const Text& file, int index) override {
+    return target_.ExtractIconEx(file, index);
+  }
+  long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override {
+    return target_.RegCreateKey(root, name, key);
+  }
+  long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
+                    RegistryKey& key) override {
+    return target_.RegOpenKeyEx(root, name, access, key);
+  }
+  long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) override {
+    return target_.RegQueryValueEx(key, name, value);
+  }
+  void RegCloseKey(RegistryKey key) override { target_.RegCloseKey(key); }
   void MessageBeep(std::uint32_t type) override { target_.MessageBeep(type); }
   std::uint32_t GetLastError() override { return target_.GetLastError(); }
   Text FormatMessage(std::uint32_t code) override { return target_.FormatMessage(code); }

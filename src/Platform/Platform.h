@@ -54,6 +54,23 @@ struct FileStatus {
 enum class FindHandle : std::int64_t { kInvalid = -1, kNone = 0 };
 enum class FileHandle : std::int64_t { kInvalid = -1 };
 
+// Roots of the registry, and keys that only the platform understands.
+enum class RegistryRoot : std::uint32_t { kClassesRoot = 0x80000000, kLocalMachine = 0x80000002 };
+enum class RegistryKey : std::int64_t { kNone = 0 };
+
+// Types of registry values that the program reads.
+inline constexpr std::uint32_t kRegistryString = 1;
+inline constexpr std::uint32_t kRegistryBinary = 3;
+inline constexpr std::uint32_t kRegistryNumber = 4;
+inline constexpr std::uint32_t kRegistryStrings = 7;
+
+// A value as it is stored.
+struct RegistryValue {
+  std::uint32_t type = 0;
+  Text text;          // of a string or strings, terminators included
+  std::string bytes;  // of a binary value or a number, lowest byte first
+};
+
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -153,6 +170,32 @@ class Platform {
   // Value of an environment variable, empty if it is not set. A directory is given as the program
   // writes it.
   virtual Text GetEnvironmentVariable(const Text& name) = 0;
+
+  // --- Shell, icons, registry -----------------------------------------------------------------
+
+  // Hands a document to the program that the system associates with it. A result below 33 is an
+  // error code; Posix starts nothing and answers 31, as a machine without associations does.
+  virtual int ShellExecute(const Text& verb, const Text& file, const Text& parameters,
+                           const Text& directory, int show) = 0;
+  // The program associated with a file. `buffer` keeps its size; the name and a NUL overwrite its
+  // beginning, a NUL alone where there is none. A result below 33 is an error code.
+  virtual int FindExecutable(const Text& file, const Text& directory, Text& buffer) = 0;
+  // Starts a program and returns at once; `mode` is the window's state (1 normal). Raises
+  // kFileNotFound or kInvalidCall; Posix, where nothing is ever started, kPermissionDenied.
+  virtual void StartProgram(const Text& command_line, int mode) = 0;
+
+  // Number of large icons that extracting one at `index` yields, 0 or 1. Posix looks into icon
+  // files and into NE and PE executables, where any icon group will do.
+  virtual int ExtractIconEx(const Text& file, int index) = 0;
+
+  // Registry: results are error codes, 0 is success. Keys that were opened or created are closed by
+  // RegCloseKey, or at the end of the process.
+  virtual long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) = 0;
+  virtual long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
+                            RegistryKey& key) = 0;
+  // The value `name`, or the key's default value where it is empty.
+  virtual long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) = 0;
+  virtual void RegCloseKey(RegistryKey key) = 0;
 
   // --- System services ----------------------------------------------------------------------
 

@@ -66,4 +66,14 @@ struct PendingError {
 
 PendingError& Err();
 
+// Runs one step of a routine that goes on after each error.
+template <typename Step>
+void IgnoringErrors(Step step) {
+  try {
+    step();
+  } catch (const RuntimeError&) {
+    // The next step runs.
+  }
+}
+
 }  // namespace trovex

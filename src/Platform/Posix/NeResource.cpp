@@ -9,7 +9,8 @@ constexpr std::size_t kResidentNamesAt = 0x26;
 constexpr std::size_t kTargetSystemAt = 0x36;
 constexpr std::uint16_t kTargetOs2 = 1;  // whose resource table looks otherwise
 
-constexpr std::uint16_t kVersionType = 0x8010;  // the high bit marks a number instead of a name
+constexpr std::uint16_t kNumbered = 0x8000;  // marks a type's number instead of its name
+constexpr std::uint16_t kVersionType = 16;
 constexpr std::size_t kTypeSize = 8;            // type, count, reserved
 constexpr std::size_t kResourceSize = 12;       // offset, length, flags, name, reserved
 
@@ -27,27 +28,42 @@ std::string ReadRecord(ByteReader& file, std::uint64_t at, unsigned shift) {
   return record;
 }
 
-}  // namespace
+// Where the entries of a type stand; nothing where the file has none of it.
+struct TypeEntries {
+  std::uint64_t at;
+  unsigned shift;
+};
 
-std::string ReadNeResource(ByteReader& file, std::uint64_t header) {
+std::optional<TypeEntries> FindType(ByteReader& file, std::uint64_t header, std::uint16_t wanted) {
   const auto ne = file.At(header, kNeHeaderSize);
-  if (!ne || (ne->U16(kTargetSystemAt) & 0xFF) == kTargetOs2) return {};
+  if (!ne || (ne->U16(kTargetSystemAt) & 0xFF) == kTargetOs2) return std::nullopt;
   // A file without resources lets both tables begin at the same place.
-  if (ne->U16(kResourceTableAt) == ne->U16(kResidentNamesAt)) return {};
+  if (ne->U16(kResourceTableAt) == ne->U16(kResidentNamesAt)) return std::nullopt;
   std::uint64_t at = header + ne->U16(kResourceTableAt);
   const auto table = file.At(at, 2);
-  if (!table || table->U16(0) > kMaxShift) return {};
+  if (!table || table->U16(0) > kMaxShift) return std::nullopt;
   const unsigned shift = table->U16(0);
   at += 2;
   for (int types = 0; types < kMaxTypes; ++types) {
     const auto type = file.At(at, kTypeSize);
-    if (!type || type->U16(0) == 0) return {};
+    if (!type || type->U16(0) == 0) return std::nullopt;
     const std::size_t count = type->U16(2);
     at += kTypeSize;
-    if (type->U16(0) == kVersionType && count > 0) return ReadRecord(file, at, shift);
+    if (type->U16(0) == wanted && count > 0) return TypeEntries{at, shift};
     at += count * kResourceSize;
   }
-  return {};
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::string ReadNeResource(ByteReader& file, std::uint64_t header) {
+  const auto entries = FindType(file, header, kNumbered | kVersionType);
+  return entries ? ReadRecord(file, entries->at, entries->shift) : std::string();
+}
+
+bool HasNeResource(ByteReader& file, std::uint64_t header, std::uint16_t type) {
+  return FindType(file, header, kNumbered | type).has_value();
 }
 
 }  // namespace trovex::posix

@@ -87,7 +87,7 @@ class ResourceTree {
   ResourceTree(ByteReader& file, std::uint64_t root) : file_(file), root_(root) {}
 
   // Each gives the offset of what the entry leads to, or nothing.
-  std::optional<std::uint32_t> TypeTable() {
+  std::optional<std::uint32_t> TypeTable(std::uint32_t type) {
     const auto table = file_.At(root_, kTableSize);
     if (!table) return std::nullopt;
     const std::uint32_t named = table->U16(12), numbered = table->U16(14);
@@ -95,7 +95,7 @@ class ResourceTree {
     for (std::uint32_t i = named; i < named + numbered; ++i) {
       const auto entry = file_.At(root_ + kTableSize + i * kEntrySize, kEntrySize);
       if (!entry) return std::nullopt;
-      if (entry->U32(0) == kVersionType) return Subtable(entry->U32(4));
+      if (entry->U32(0) == type) return Subtable(entry->U32(4));
     }
     return std::nullopt;
   }
@@ -132,7 +132,7 @@ std::string ReadRecord(ByteReader& file, const Image& image) {
   std::uint64_t root = 0;
   if (!OffsetOf(image, image.resources, root)) return {};
   ResourceTree tree(file, root);
-  const auto names = tree.TypeTable();
+  const auto names = tree.TypeTable(kVersionType);
   const auto languages = names ? tree.FirstTable(*names) : std::nullopt;
   const auto leaf = languages ? tree.FirstLeaf(*languages) : std::nullopt;
   const auto data = leaf ? tree.Leaf(*leaf) : std::nullopt;
@@ -144,18 +144,30 @@ std::string ReadRecord(ByteReader& file, const Image& image) {
   return record;
 }
 
-}  // namespace
-
-std::string ReadPeResource(ByteReader& file, std::uint64_t header) {
+bool ReadImage(ByteReader& file, std::uint64_t header, Image& image) {
   const auto file_header = file.At(header, kFileHeaderSize);
-  if (!file_header) return {};
+  if (!file_header) return false;
   const std::size_t sections = file_header->U16(kSectionCountAt);
   const std::size_t optional_size = file_header->U16(kOptionalSizeAt);
   const std::uint64_t optional = header + kFileHeaderSize;
+  return ReadOptionalHeader(file, optional, optional_size, image) &&
+         ReadSections(file, optional + optional_size, sections, image);
+}
+
+}  // namespace
+
+std::string ReadPeResource(ByteReader& file, std::uint64_t header) {
   Image image;
-  if (!ReadOptionalHeader(file, optional, optional_size, image)) return {};
-  if (!ReadSections(file, optional + optional_size, sections, image)) return {};
-  return ReadRecord(file, image);
+  return ReadImage(file, header, image) ? ReadRecord(file, image) : std::string();
+}
+
+bool HasPeResource(ByteReader& file, std::uint64_t header, std::uint16_t type) {
+  Image image;
+  std::uint64_t root = 0;
+  if (!ReadImage(file, header, image) || !OffsetOf(image, image.resources, root)) return false;
+  ResourceTree tree(file, root);
+  const auto names = tree.TypeTable(type);
+  return names && tree.FirstTable(*names).has_value();
 }
 
 }  // namespace trovex::posix

@@ -58,12 +58,26 @@ std::string Sentence(const std::string& directory, const std::string& complaint)
   return "trovex-cli: " + directory + joint + complaint;
 }
 
+// The file types whose icons the program asks for: a program bears its own, an archive has one of
+// the system's.
+void FillRegistry(posix::RegistryTable& registry) {
+  const auto set = [&](const Text& key, const Text& value) {
+    registry.SetString(RegistryRoot::kClassesRoot, key, value);
+  };
+  set(u".exe", u"exefile");
+  set(u"exefile\\defaulticon", u"%1");
+  set(u".zip", u"zipfile");
+  set(u"zipfile\\defaulticon", u"C:\\WINDOWS\\SYSTEM\\SHELL32.DLL,3");
+}
+
 class PosixHost : public Host {
  public:
   PosixHost(const std::string& directory, char16_t drive)
       : drive_(ToUpper(drive)),
         root_drive_(drive_ == u'Z' ? u'Y' : u'Z'),
-        platform_(Setup(directory)) {}
+        platform_(Setup(directory)) {
+    FillRegistry(platform_.Registry());
+  }
 
   Platform& GetPlatform() override { return platform_; }
   Text Start() override { return Text{drive_, u':', u'\\'}; }

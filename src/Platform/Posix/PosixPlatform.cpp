@@ -68,6 +68,19 @@ class FileSource : public ByteSource {
   FileDescriptor file_;
 };
 
+// Opens a file for reading at offsets; 0, or the errno of the failure.
+template <typename Use>
+int WithSource(const Place& place, Use use) {
+  if (const int unusable = FileError(place)) return unusable;
+  // The listing has told that this is a regular file: no further question, and should it have
+  // become a FIFO meanwhile, opening it does not wait.
+  FileDescriptor file = OpenHostPath(place.host, O_RDONLY | O_NONBLOCK);
+  if (!file.IsOpen()) return errno;
+  FileSource source(std::move(file));
+  use(source);
+  return 0;
+}
+
 // The name if it fits with its terminator, else the size that it needs.
 std::uint32_t FillBuffer(const Text& name, Text& buffer, std::uint32_t size) {
   const auto length = static_cast<std::uint32_t>(name.size());
@@ -286,16 +299,17 @@ void PosixPlatform::DeleteFile(const Text& name) {
 std::string PosixPlatform::ReadVersionBlock(const Text& name) {
   std::string block;
   OnPlace(name, [&](const Place& place) {
-    if (const int unusable = FileError(place)) return unusable;
-    // The listing has told that this is a regular file: no further question, and should it have
-    // become a FIFO meanwhile, opening it does not wait.
-    FileDescriptor file = OpenHostPath(place.host, O_RDONLY | O_NONBLOCK);
-    if (!file.IsOpen()) return errno;
-    FileSource source(std::move(file));
-    block = ReadVersionRecord(source);
-    return 0;
+    return WithSource(place, [&](ByteSource& source) { block = ReadVersionRecord(source); });
   });
   return block;
+}
+
+int PosixPlatform::ExtractIconEx(const Text& file, int) {
+  bool holds = false;
+  OnPlace(file, [&](const Place& place) {
+    return WithSource(place, [&](ByteSource& source) { holds = HoldsIcon(source); });
+  });
+  return holds ? 1 : 0;
 }
 
 std::uint32_t PosixPlatform::GetFileVersionInfoSize(const Text& name) {

@@ -13,6 +13,7 @@
 #include "Platform/Posix/FileTable.h"
 #include "Platform/Posix/FindTable.h"
 #include "Platform/Posix/Names.h"
+#include "Platform/Posix/RegistryTable.h"
 
 namespace trovex {
 
@@ -64,11 +65,24 @@ class PosixPlatform : public Platform {
   void ChangeDirectory(const Text& directory) override;
   void ChangeDrive(const Text& drive) override;
   Text GetEnvironmentVariable(const Text& name) override;
+  int ShellExecute(const Text& verb, const Text& file, const Text& parameters,
+                   const Text& directory, int show) override;
+  int FindExecutable(const Text& file, const Text& directory, Text& buffer) override;
+  void StartProgram(const Text& command_line, int mode) override;
+  int ExtractIconEx(const Text& file, int index) override;
+  long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override;
+  long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
+                    RegistryKey& key) override;
+  long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) override;
+  void RegCloseKey(RegistryKey key) override;
   void MessageBeep(std::uint32_t type) override;
   std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
   double Random() override;
   void Forget() override;
+
+  // The registry: empty, for whoever sets up the platform to fill.
+  posix::RegistryTable& Registry() { return registry_; }
 
   // The name by which the program reaches an absolute host path on the drive `letter`, whose root
   // is in front of it. What is missing keeps its spelling, for a new file to be created so.
@@ -96,6 +110,7 @@ class PosixPlatform : public Platform {
   posix::FileTable files_;
   PosixSetup setup_;
   VersionMemo version_;
+  posix::RegistryTable registry_;
   int last_error_ = 0;
   std::mt19937_64 random_;
 };

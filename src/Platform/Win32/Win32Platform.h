@@ -45,6 +45,16 @@ class Win32Platform : public Platform {
   void ChangeDirectory(const Text& directory) override;
   void ChangeDrive(const Text& drive) override;
   Text GetEnvironmentVariable(const Text& name) override;
+  int ShellExecute(const Text& verb, const Text& file, const Text& parameters,
+                   const Text& directory, int show) override;
+  int FindExecutable(const Text& file, const Text& directory, Text& buffer) override;
+  void StartProgram(const Text& command_line, int mode) override;
+  int ExtractIconEx(const Text& file, int index) override;
+  long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override;
+  long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
+                    RegistryKey& key) override;
+  long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) override;
+  void RegCloseKey(RegistryKey key) override;
   void MessageBeep(std::uint32_t type) override;
   std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;

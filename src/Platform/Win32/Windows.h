@@ -3,6 +3,8 @@
 #pragma once
 
 #include <windows.h>
+// Behind windows.h, whose types it needs.
+#include <shellapi.h>
 
 #undef CopyFile
 #undef DeleteFile
@@ -18,3 +20,9 @@
 #undef GetSystemDirectory
 #undef GetWindowsDirectory
 #undef WritePrivateProfileString
+#undef ExtractIconEx
+#undef FindExecutable
+#undef RegCreateKey
+#undef RegOpenKeyEx
+#undef RegQueryValueEx
+#undef ShellExecute

@@ -1,0 +1,129 @@
+// Shell, icons and registry: the real calls.
+#include <algorithm>
+
+#include "Platform/Win32/Names.h"
+#include "Platform/Win32/Win32Platform.h"
+#include "Platform/Win32/Windows.h"
+
+namespace trovex {
+namespace {
+
+constexpr DWORD kLongestName = 32768;  // characters
+
+HKEY Root(RegistryRoot root) {
+  return root == RegistryRoot::kClassesRoot ? HKEY_CLASSES_ROOT : HKEY_LOCAL_MACHINE;
+}
+
+HKEY Native(RegistryKey key) {
+  return reinterpret_cast<HKEY>(static_cast<std::intptr_t>(key));
+}
+
+RegistryKey Port(HKEY key) {
+  return static_cast<RegistryKey>(reinterpret_cast<std::intptr_t>(key));
+}
+
+int ResultOf(HINSTANCE instance) {
+  const auto result = reinterpret_cast<std::intptr_t>(instance);
+  return static_cast<int>(std::min<std::intptr_t>(result, 33));
+}
+
+bool IsText(DWORD type) {
+  return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
+}
+
+}  // namespace
+
+int Win32Platform::ShellExecute(const Text& verb, const Text& file, const Text& parameters,
+                                const Text& directory, int show) {
+  return ResultOf(ShellExecuteW(GetDesktopWindow(), Wide(verb), Wide(file), Wide(parameters),
+                                Wide(directory), show));
+}
+
+int Win32Platform::FindExecutable(const Text& file, const Text& directory, Text& buffer) {
+  Text found(std::max<std::size_t>(MAX_PATH, kLongestName), u'\0');
+  const int result = ResultOf(FindExecutableW(Wide(file), Wide(directory), Wide(found)));
+  found.resize(std::min(found.find(u'\0'), found.size()));
+  if (result <= 32) found.clear();
+  // Name and terminator, as far as the buffer reaches.
+  for (std::size_t i = 0; i < std::min(found.size() + 1, buffer.size()); ++i) {
+    buffer[i] = i < found.size() && i + 1 < buffer.size() ? found[i] : u'\0';
+  }
+  return result;
+}
+
+void Win32Platform::StartProgram(const Text& command_line, int mode) {
+  STARTUPINFOW start = {};
+  start.cb = sizeof start;
+  start.dwFlags = STARTF_USESHOWWINDOW;
+  start.wShowWindow = static_cast<WORD>(mode);
+  PROCESS_INFORMATION process = {};
+  Text line = command_line;
+  if (!CreateProcessW(nullptr, Wide(line), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                      &process)) {
+    const DWORD code = ::GetLastError();
+    const bool missing = code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND;
+    // A program that asks for more rights starts only through the shell.
+    if (code == ERROR_ELEVATION_REQUIRED &&
+        ResultOf(ShellExecuteW(nullptr, nullptr, Wide(command_line), nullptr, nullptr, mode)) >
+            32) {
+      return;
+    }
+    throw RuntimeError(missing ? ErrorNumber::kFileNotFound : ErrorNumber::kInvalidCall);
+  }
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+}
+
+int Win32Platform::ExtractIconEx(const Text& file, int index) {
+  HICON large = nullptr;
+  ExtractIconExW(Wide(file), index, &large, nullptr, 1);
+  if (large == nullptr) return 0;
+  DestroyIcon(large);
+  return 1;
+}
+
+long Win32Platform::RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) {
+  HKEY opened = nullptr;
+  const LSTATUS result = RegCreateKeyW(Root(root), Wide(name), &opened);
+  key = Port(opened);
+  return result;
+}
+
+long Win32Platform::RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
+                                 RegistryKey& key) {
+  HKEY opened = nullptr;
+  LSTATUS result = RegOpenKeyExW(Root(root), Wide(name), 0, access, &opened);
+  // A user without the right to write may still read.
+  if (result == ERROR_ACCESS_DENIED) {
+    result = RegOpenKeyExW(Root(root), Wide(name), 0, KEY_READ, &opened);
+  }
+  key = Port(opened);
+  return result;
+}
+
+long Win32Platform::RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) {
+  DWORD type = 0, size = 0;
+  LSTATUS result = RegQueryValueExW(Native(key), Wide(name), nullptr, &type, nullptr, &size);
+  if (result != ERROR_SUCCESS) return result;
+  std::string bytes(size, '\0');
+  result = RegQueryValueExW(Native(key), Wide(name), nullptr, &type,
+                            reinterpret_cast<BYTE*>(bytes.data()), &size);
+  if (result != ERROR_SUCCESS) return result;
+  bytes.resize(size);
+  value = {type == REG_EXPAND_SZ ? kRegistryString : type, {}, {}};
+  if (!IsText(type)) {
+    value.bytes = std::move(bytes);
+    return result;
+  }
+  value.text.resize(size / sizeof(char16_t));
+  std::copy_n(bytes.data(), value.text.size() * sizeof(char16_t),
+              reinterpret_cast<char*>(value.text.data()));
+  if (!value.text.ends_with(u'\0')) value.text += u'\0';
+  return result;
+}
+
+void Win32Platform::RegCloseKey(RegistryKey key) {
+  ::RegCloseKey(Native(key));
+}
+
+}  // namespace trovex
