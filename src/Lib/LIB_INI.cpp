@@ -38,6 +38,7 @@ void Put(const Text& sRoutine, const Text& sSection, const Text& sCle, const Tex
 
 }  // namespace
 
+Text sFichierIni;
 Text sDernierFichierIni;
 
 Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const Text& sFichier) {
@@ -48,8 +49,8 @@ Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const 
       return sLitIniGrosFichier(sSection, sCle, sDefaut, sFichier);
     }
     Text buffer;
-    const std::uint32_t n = CurrentPlatform().GetPrivateProfileString(sSection, sCle, sDefaut,
-                                                                      buffer, kValueBuffer, sFichier);
+    const std::uint32_t n = CurrentPlatform().GetPrivateProfileString(
+        sSection, sCle, sDefaut, buffer, kValueBuffer, sFichier);
     return n == 0 ? sDefaut : Trim(TextView(buffer).substr(0, n));
   } catch (const RuntimeError&) {
     return sDefaut;

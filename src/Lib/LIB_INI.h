@@ -9,6 +9,9 @@ namespace trovex {
 // From this size in bytes on a file takes the line by line path.
 inline constexpr long long kGrosFichier = 320000;
 
+// Full name of the settings file.
+extern Text sFichierIni;
+
 // The file named in the last read: reading it again does not test its existence again.
 extern Text sDernierFichierIni;
 

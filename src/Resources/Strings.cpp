@@ -2,6 +2,8 @@
 
 #include <unordered_map>
 
+#include "Resources/Version.h"
+
 namespace trovex {
 namespace {
 
@@ -45,6 +47,81 @@ const std::unordered_map<StringId, Text>& Table() {
       {StringId::kTableInstallation, u"Fichiers d'installation Setup/Install"},
       {StringId::kTableExecutables, u"Fichiers Exécutable"},
       {StringId::kTableArchives, u"Archives ZIP"},
+      {StringId::kValider, u"Valider"},
+      {StringId::kAnnuler, u"Annuler"},
+      {StringId::kAucunExecutable,
+       u"Aucun nom d'exécutable n'est passé à la fonction : iExecuteShellWin()"},
+      {StringId::kPasDAssociation,
+       u"L'extension du fichier ne possède pas d'association vers un exécutable."},
+      {StringId::kLancementDocument, u"Lancement document : "},
+      {StringId::kErreurCenterForm, u"la fct CenterForm()"},
+      {StringId::kFaitesVotreChoix, u"Faites votre choix"},
+      {StringId::kSelectionnezFichier, u"Sélectionnez un fichier"},
+      {StringId::kAideImpossible, u"Affichage de l'aide impossible, le fichier d'aide : "},
+      {StringId::kAideInaccessible,
+       u"Affichage de l'aide impossible, le fichier d'aide (HELP) est inaccessible."},
+      {StringId::kAidePanel,
+       u"Zone d'affichage de l'aide liée aux déplacements du curseur de la souris"},
+      {StringId::kShellFichier, u"Fichier introuvable"},
+      {StringId::kShellChemin, u"Path introuvable"},
+      {StringId::kShellAcces, u"Accès refusé"},
+      {StringId::kShellMemoire, u"Mémoire insuffisante"},
+      {StringId::kShellExe, u"Fichier EXE invalide"},
+      {StringId::kShellPartage, u"Violation de partage"},
+      {StringId::kShellIncomplete, u"Association de fichier incomplète ou invalide"},
+      {StringId::kShellDdeTemps, u"Liaison DDE : Temps dépassé"},
+      {StringId::kShellDdeEchec, u"Transaction DDE impossible"},
+      {StringId::kShellDdeOccupee, u"Liaison DDE occupée"},
+      {StringId::kShellSansAssociation, u"Pas d'association pour cette extension de fichier"},
+      {StringId::kShellDll, u"DLL introuvable"},
+      {StringId::kShellInconnue, u"Erreur inconnue"},
+      {StringId::kConfirmeExecution, u"Confirmez-vous l'execution du fichier ?"},
+      {StringId::kErreurRecherche, u"Erreur lors de la recherche d'information sur le fichier : "},
+      {StringId::kAffichageAnnule, u"Affichage annulé du fichier : "},
+      {StringId::kCarTaille, u"car la taille du fichier est de"},
+      {StringId::kMajOctets, u" Octets"},
+      {StringId::kPatientezChargement, u"Patientez, chargement du fichier : "},
+      {StringId::kChangementLecteur, u"Erreur lors du changement de lecteur."},
+      {StringId::kLecteurCdRom, u"S'il s'agit d'un lecteur de CD-ROM ou d'un lecteur ammovible,"},
+      {StringId::kLecteurVide, u"assurez-vous que le lecteur ne soit pas vide."},
+      {StringId::kVersion32Bits, u"Version 32 bits pour Windows"},
+      {StringId::kProgrammeDos, u"Programme MS-DOS"},
+      {StringId::kProgrammeOs2, u"Programme OS2"},
+      {StringId::kProgrammeWin32s, u"Programme Windows 32s"},
+      {StringId::kProgrammeWin31, u"Programme Windows 3.1x"},
+      {StringId::kProgrammeWin95, u"Programme Windows 95"},
+      {StringId::kProgrammeWinNt, u"Programme Windows NT"},
+      {StringId::kAideApropos, u"Affiche une fenêtre d'informations sur le logiciel"},
+      {StringId::kAideConvertHtml,
+       u"Permet la construction de fichiers HTML à partir des données du tableau."},
+      {StringId::kAideExplorer,
+       u"Lance l'exploration du répertoire sélectionné pour la recherche d'exécutables."},
+      {StringId::kAideExporter,
+       u"Exporte le contenu du tableau courant dans différents formats ASCII."},
+      {StringId::kAideImprimer,
+       u"Imprime le contenu la liste des informations du tableau courant."},
+      {StringId::kAidePrintTexte,
+       u"Imprime le contenu de la zone d'affichage des fichiers ASCII ou la liste des informations "
+       u"du tableau courant."},
+      {StringId::kAideQuitter, u"Permet de quitter l'application"},
+      {StringId::kAideListeRepertoire,
+       u"Liste des répertoires sélectionnables pour lancer l'exploration"},
+      {StringId::kAideListFichier,
+       u"Liste de certains fichiers dans le même répertoire que l'exécutable."},
+      {StringId::kAideTexte, u"Zone d'affichage des fichiers ASCII sélectionnés"},
+      {StringId::kAideFichier,
+       u"Zone d'affichage du fichier sélectionné avec son emplacement complet."},
+      {StringId::kAideNombre, u"Zone d'affichage du nombre de ligne du tableau courant."},
+      {StringId::kAideTable0,
+       u"Liste des procédures d'installation : Setup et Install. Double-cliquez pour lancer "
+       u"l'exécution."},
+      {StringId::kAideTable1,
+       u"Liste des autres exécutables. Double-cliquez pour lancer le programme."},
+      {StringId::kAideTable2,
+       u"Liste des fichiers Archive ZIP. Double-cliquez pour lancer l'exécution du programme "
+       u"associé à l'extension."},
+      {StringId::kInfoBullePanel, u"Zone d'affichage d'une aide associée à la souris"},
+      {StringId::kNomProgramme, Text(kTitle)},
       {StringId::kRechercheLes,
        u"Recherche les procédures d'installation, les exécutables et les archives Zip à partir "
        u"d'un répertoire."},
@@ -54,6 +131,8 @@ const std::unordered_map<StringId, Text>& Table() {
 
 }  // namespace
 
-const Text& ResString(StringId id) { return Table().at(id); }
+const Text& ResString(StringId id) {
+  return Table().at(id);
+}
 
 }  // namespace trovex
