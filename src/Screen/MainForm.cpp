@@ -2,10 +2,16 @@
 
 #include "Lib/LIB_BUSY.h"
 #include "Resources/MainFormTable.h"
+#include "Resources/Strings.h"
 #include "Screen/Events.h"
 #include "Ui/Colour.h"
 
 namespace trovex {
+namespace {
+
+constexpr int kButtonCount = 7;  // of the tool bar
+
+}  // namespace
 
 MainForm::MainForm()
     : Form(kMainFormSpec),
@@ -42,14 +48,62 @@ MainForm::~MainForm() {
 void MainForm::DressControls() {
   ListFichier.SetSorted(true);
   ZoneDesTableaux.SetCaptions({std::begin(kMainFormTabs), std::end(kMainFormTabs)});
+  ImageAppli.SetPicture({Picture::Source::kResource, u"Trovex"});
+  for (int i = 0; i < kButtonCount; ++i) {
+    ShapeOmbre(i).SetBackColor(Rgb(128, 128, 128));
+  }
+  for (int i = 0; i < kTableCount; ++i) GridLogiciel(i).SetFont({u"Times New Roman", 9.75});
+  DressTextBoxes();
   PanelAide.AddPanel(u"Msg", StatusBar::PanelStyle::kText);
   PanelAide.AddPanel(u"Maj", StatusBar::PanelStyle::kCapsLock);
   PanelAide.AddPanel(u"Num", StatusBar::PanelStyle::kNumLock);
   PanelAide.AddPanel(u"INSER", StatusBar::PanelStyle::kInsert);
+  PanelAide.SetToolTip(ResString(StringId::kInfoBullePanel));
+  OrderTabs();
+}
+
+void MainForm::DressTextBoxes() {
+  for (int i = 0; i <= 6; ++i) TextInfo(i).SetLocked(true);
+  for (int i = 1; i <= 4; ++i) TextInfo(i).SetForeColor(Rgb(0, 0, 128));
+  TextInfo(0).SetMultiLine(true);
+  TextInfo(0).SetFont({u"Fixedsys", 9});
+  for (int i : {5, 6}) {
+    TextInfo(i).SetBackColor(Rgb(192, 192, 192));
+    TextInfo(i).SetFont({{}, 0, true});
+  }
+  TextInfo(6).SetAlignment(Alignment::kCentre);
+}
+
+// The tool bar comes first in the order of the Tab key, with Exporter last of all.
+void MainForm::OrderTabs() {
+  int order = 0;
+  for (Control* control : std::initializer_list<Control*>{
+           &Explorer,        &ConvertHTML,     &Imprimer,        &CommandOption, &Apropos,
+           &Quitter,         &ListeDrive,      &ListeRepertoire, &TextInfo(4),   &TextInfo(1),
+           &TextInfo(2),     &TextInfo(3),     &TextInfo(5),     &TextInfo(6),   &ZoneDesTableaux,
+           &GridLogiciel(0), &GridLogiciel(1), &GridLogiciel(2), &ListFichier,   &TextInfo(0),
+           &PrintTexte,      &Exporter}) {
+    control->SetTabOrder(order++);
+  }
 }
 
 void MainForm::BindEvents() {
+  on_load = [this] { Form_Load(*this); };
+  on_activate = [] { BusyOff(); };
+  on_resize = [this] { Form_Resize(*this); };
+  on_paint = [this] { Form_Paint(*this); };
+  on_unload = [this] { Form_Unload(*this); };
+  ListeDrive.on_change = [this] { ListeDrive_Change(*this); };
   Explorer.on_click = [this] { Explorer_Click(*this); };
+  Quitter.on_click = [this] { Unload(); };
+  ZoneDesTableaux.on_tab_click = [this](int) { ZoneDesTableaux_Click(*this); };
+  ListFichier.on_click = [this] { ListFichier_Click(*this); };
+  ListFichier.on_dbl_click = [this] { ListFichier_DblClick(*this); };
+  for (int i = 0; i < kTableCount; ++i) {
+    GridLogiciel(i).on_click = [this, i] { GridLogiciel_Click(*this, i); };
+    GridLogiciel(i).on_dbl_click = [this, i] { GridLogiciel_DblClick(*this, i); };
+  }
+  BindHelpLine(*this);
 }
 
 }  // namespace trovex

@@ -49,6 +49,8 @@ class MainForm : public Form {
 
  private:
   void DressControls();
+  void DressTextBoxes();
+  void OrderTabs();
   void BindEvents();
 
   std::array<Grid*, kTableCount> grids_;

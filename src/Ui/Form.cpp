@@ -64,7 +64,15 @@ void Form::SetFrame(Extent frame) {
 void Form::Resize(double width, double height) {
   if (width == Width() && height == Height()) return;
   Move({Left(), Top(), width, height});
+  AlignStatusBars();
   Raise(on_resize);
+}
+
+void Form::AlignStatusBars() {
+  for (const auto& control : controls_) {
+    if (control->Kind() != ControlKind::kStatusBar) continue;
+    control->Move({0, ScaleHeight() - control->Height(), ScaleWidth(), control->Height()});
+  }
 }
 
 void Form::Load() {
@@ -91,8 +99,12 @@ void Form::Hide() { SetVisible(false); }
 
 void Form::Unload() {
   if (!Loaded()) return;
-  Raise(on_unload);
-  if (!Loaded()) return;  // the event unloaded it already
+  if (!unloading_) {
+    unloading_ = true;
+    Raise(on_unload);
+    unloading_ = false;
+    if (!Loaded()) return;  // the event unloaded it already
+  }
   SetVisible(false);
   view_->Detach(*this);
   view_ = nullptr;

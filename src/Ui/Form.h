@@ -41,7 +41,8 @@ class Form : public Control {
   void Resize(double width, double height);
 
   // Life: the load event runs once before the first showing. Show raises the activation; Unload
-  // raises the unload event and takes the form from the screen and the list of loaded forms.
+  // raises the unload event and takes the form from the screen and the list of loaded forms; called
+  // again by that event it does so at once.
   bool Loaded() const { return view_ != nullptr; }
   void Load();
   void Show();
@@ -67,12 +68,15 @@ class Form : public Control {
 
  private:
   void Add(const ControlSpec& spec);
+  // A status bar keeps to the lower edge by itself.
+  void AlignStatusBars();
 
   std::vector<std::unique_ptr<Control>> controls_;
   Text caption_;
   bool sizable_;
   Extent frame_ = kWindowFrame;
   bool minimised_ = false;
+  bool unloading_ = false;
   View* view_ = nullptr;
 };
 

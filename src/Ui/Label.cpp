@@ -18,16 +18,23 @@ void Captioned::SetForeColor(unsigned colour) {
 
 void OptionButton::SetValue(bool value) {
   if (value == value_) return;
-  if (value && Parent() != nullptr) {
-    for (const auto& other : Parent()->Controls()) {
-      if (other.get() != this && other->Kind() == Kind() && other->Name() == Name()) {
-        static_cast<OptionButton&>(*other).SetValue(false);
-      }
-    }
-  }
+  Preset(value);
+  if (value) Raise(on_click);
+}
+
+void OptionButton::Preset(bool value) {
+  if (value == value_) return;
+  if (value) ReleaseOthers();
   value_ = value;
   Notify(Property::kSelection);
-  if (value) Raise(on_click);
+}
+
+void OptionButton::ReleaseOthers() {
+  if (Parent() == nullptr) return;
+  for (const auto& other : Parent()->Controls()) {
+    const bool same_group = other->Kind() == Kind() && other->Name() == Name();
+    if (other.get() != this && same_group) static_cast<OptionButton&>(*other).Preset(false);
+  }
 }
 
 void Line::SetPoints(double x1, double y1, double x2, double y2) {

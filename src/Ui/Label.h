@@ -3,16 +3,9 @@
 
 #include "Ui/Alignment.h"
 #include "Ui/Control.h"
+#include "Ui/Font.h"
 
 namespace trovex {
-
-// A font as forms name it; an empty name and size 0 mean the window system's own.
-struct Font {
-  Text name;
-  double size = 0;  // points
-  bool bold = false;
-  bool operator==(const Font&) const = default;
-};
 
 // Shared by the kinds that show one line of text: label, button, option button, panel.
 class Captioned : public Control {
@@ -68,8 +61,12 @@ class OptionButton : public Captioned {
   bool Value() const { return value_; }
   // Setting it on raises the click.
   void SetValue(bool value);
+  // The same without the click, for a choice made before the user sees it.
+  void Preset(bool value);
 
  private:
+  void ReleaseOthers();
+
   bool value_ = false;
 };
 

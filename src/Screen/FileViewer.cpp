@@ -1,0 +1,92 @@
+#include "Lib/Dialogs.h"
+#include "Lib/LIB_BUSY.h"
+#include "Lib/LIB_DIALOGUE.h"
+#include "Lib/LIB_FILE.h"
+#include "Lib/LIB_SHELL.h"
+#include "Lib/LIB_STRING.h"
+#include "Resources/Strings.h"
+#include "Screen/Events.h"
+
+namespace trovex {
+namespace {
+
+Text ChosenFile(MainForm& form) {
+  return sAjouteBackslash(form.ListFichier.Tag()) + form.ListFichier.GetText();
+}
+
+// Length in bytes, 0 where the file cannot be found.
+std::int64_t LengthOf(const Text& sFichier) {
+  FileStatus status;
+  const bool found = bFichierExiste(sFichier) && CurrentPlatform().GetFileStatus(sFichier, status);
+  return found ? status.length : 0;
+}
+
+void ShowIcon(MainForm& form, const Text& sFichier) {
+  form.ImageSelect.SetPicture({});
+  IgnoringErrors([&] {
+    if (CurrentPlatform().ExtractIconEx(sFichier, 0) > 0) {
+      form.ImageSelect.SetPicture({Picture::Source::kFile, sFichier});
+    }
+  });
+  form.LabelInfo(2).SetVisible(false);
+  form.TextInfo(0).SetVisible(false);
+  form.PrintTexte.SetVisible(false);
+  form.ImageSelect.SetVisible(true);
+}
+
+void RefuseText(MainForm& form, const Text& sFichier, std::int64_t lTaille) {
+  form.LabelInfo(2).SetVisible(false);
+  form.TextInfo(0).SetVisible(false);
+  MessageInfo(ResString(StringId::kAffichageAnnule) + Text(kCrLf) + sFichier + Text(kCrLf) +
+              ResString(StringId::kCarTaille) + u" " + Decimal(lTaille) +
+              ResString(StringId::kMajOctets));
+}
+
+void ShowText(MainForm& form, Text sFichier) {
+  form.PrintTexte.SetVisible(false);
+  form.TextInfo(0).SetText({});
+  std::int64_t lTaille = LengthOf(sFichier);
+  if (!bFichierExiste(sFichier)) {
+    // The list may have been read from another disk directory than the row's own.
+    const Text sAutre =
+        sAjouteBackslash(sRepertoireSeul(form.TextInfo(5).GetText())) + form.ListFichier.GetText();
+    if (bFichierExiste(sAutre)) {
+      sFichier = sAutre;
+      lTaille = LengthOf(sFichier);
+    }
+  }
+  if (lTaille <= 0) return RefuseText(form, sFichier, lTaille);
+  BusyOn(ResString(StringId::kPatientezChargement) + sFichier + u" - " + Decimal(lTaille) +
+         ResString(StringId::kMajOctets));
+  IgnoringErrors([&] { ChargeTexte(sFichier, form.TextInfo(0), true); });
+  form.ImageSelect.SetVisible(false);
+  form.LabelInfo(2).SetVisible(true);
+  form.TextInfo(0).SetVisible(true);
+  form.PrintTexte.SetVisible(true);
+}
+
+}  // namespace
+
+void ListFichier_Click(MainForm& form) {
+  BusyOn();
+  const Text& sNom = form.ListFichier.GetText();
+  const Text sFichier = ChosenFile(form);
+  IgnoringErrors([&] {
+    if (bEstExtension(sNom, u".diz") || bEstExtension(sNom, u".txt")) {
+      ShowText(form, sFichier);
+    } else if (bEstExtension(sNom, u".hlp")) {
+      AfficheAide({}, sFichier);
+    } else if (bEstExtension(sNom, u".ico")) {
+      ShowIcon(form, sFichier);
+    } else {
+      iLanceParAssociation(sFichier, true);
+    }
+  });
+  BusyOff();
+}
+
+void ListFichier_DblClick(MainForm& form) {
+  iLanceParAssociation(ChosenFile(form), true);
+}
+
+}  // namespace trovex

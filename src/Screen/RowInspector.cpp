@@ -1,0 +1,87 @@
+#include "Lib/LIB_BUSY.h"
+#include "Lib/LIB_DIALOGUE.h"
+#include "Lib/LIB_FILE.h"
+#include "Lib/Lib_Form.h"
+#include "Resources/Strings.h"
+#include "Scanner/zFileInfo.h"
+#include "Screen/Events.h"
+
+namespace trovex {
+namespace {
+
+constexpr int kArchives = static_cast<int>(Table::kArchives);
+
+void EmptyPanes(MainForm& form) {
+  form.ListFichier.Clear();
+  for (int i = 0; i <= 5; ++i) form.TextInfo(i).SetText({});
+  form.PrintTexte.SetVisible(false);
+  form.ImageSelect.SetVisible(false);
+  form.TextInfo(0).SetVisible(false);
+  form.LabelInfo(2).SetVisible(false);
+  form.IconeFichier.SetPicture({});
+}
+
+// False where column 1 holds no directory: the row has nothing to show.
+bool HasDirectory(Grid& grid) {
+  grid.SetCol(1);
+  const TextView trimmed = Trimmed(grid.GetText());
+  if (trimmed == u"0") {
+    grid.SetText({});
+    return false;
+  }
+  return !trimmed.empty();
+}
+
+// A description that the scan left open is filled in now.
+void CompleteDescription(Grid& grid, int Index, const zFileInfo& oInfo) {
+  grid.SetCol(0);
+  if (Trimmed(grid.GetText()) != u"0") return;
+  grid.SetText(Index == kArchives ? oInfo.zSizeKo() : oInfo.zDescription());
+}
+
+void ShowDetails(MainForm& form, Grid& grid, int Index, const Text& sFichier) {
+  form.TextInfo(5).SetText(Trimmed(sAjouteBackslash(grid.GetText()) + sFichier));
+  FileListBox& liste = Lib_Form().ListeFichier();
+  liste.SetPath(Trimmed(grid.GetText()));
+  form.ListFichier.SetTag(liste.Path());
+  grid.SetCol(2);
+  zFileInfo oInfo;
+  oInfo.PutFileName(form.TextInfo(5).GetText());
+  form.TextInfo(1).SetText(oInfo.zCopyright());
+  form.TextInfo(2).SetText(oInfo.zInternalName());
+  form.TextInfo(3).SetText(oInfo.zCompanyName());
+  form.TextInfo(4).SetText(oInfo.zProductName());
+  CompleteDescription(grid, Index, oInfo);
+}
+
+// `sFichier` tells the handler of errors which file was in hand.
+void Inspect(MainForm& form, int Index, Text& sFichier) {
+  Grid& grid = form.GridLogiciel(Index);
+  EmptyPanes(form);
+  grid.SetCol(2);
+  sFichier = Trim(grid.GetText());
+  if (sFichier.empty()) return;
+  BusyOn();
+  if (HasDirectory(grid)) {
+    ShowDetails(form, grid, Index, sFichier);
+    ListCompanions(form, grid, sFichier);
+    if (!Trimmed(form.TextInfo(5).GetText()).empty()) ShowRowIcon(form, grid);
+    ShowExecutableType(form);
+  }
+  BusyOff();
+}
+
+}  // namespace
+
+void GridLogiciel_Click(MainForm& form, int Index) {
+  if (form.GridLogiciel(Index).Row() <= 0) return;
+  Text sFichier;
+  try {
+    Inspect(form, Index, sFichier);
+  } catch (const RuntimeError& error) {
+    Err().Set(error);
+    MessageErreur(ResString(StringId::kErreurRecherche) + sFichier);
+  }
+}
+
+}  // namespace trovex
