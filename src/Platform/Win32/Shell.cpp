@@ -8,17 +8,18 @@
 namespace trovex {
 namespace {
 
-constexpr DWORD kLongestName = 32768;  // characters
+constexpr DWORD kLongestName = 32768;      // characters
+constexpr DWORD kElevationRequired = 740;  // the program asks for more rights
 
 HKEY Root(RegistryRoot root) {
   return root == RegistryRoot::kClassesRoot ? HKEY_CLASSES_ROOT : HKEY_LOCAL_MACHINE;
 }
 
-HKEY Native(RegistryKey key) {
+HKEY NativeKey(RegistryKey key) {
   return reinterpret_cast<HKEY>(static_cast<std::intptr_t>(key));
 }
 
-RegistryKey Port(HKEY key) {
+RegistryKey PortKey(HKEY key) {
   return static_cast<RegistryKey>(reinterpret_cast<std::intptr_t>(key));
 }
 
@@ -63,7 +64,7 @@ void Win32Platform::StartProgram(const Text& command_line, int mode) {
     const DWORD code = ::GetLastError();
     const bool missing = code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND;
     // A program that asks for more rights starts only through the shell.
-    if (code == ERROR_ELEVATION_REQUIRED &&
+    if (code == kElevationRequired &&
         ResultOf(ShellExecuteW(nullptr, nullptr, Wide(command_line), nullptr, nullptr, mode)) >
             32) {
       return;
@@ -85,7 +86,7 @@ int Win32Platform::ExtractIconEx(const Text& file, int index) {
 long Win32Platform::RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) {
   HKEY opened = nullptr;
   const LSTATUS result = RegCreateKeyW(Root(root), Wide(name), &opened);
-  key = Port(opened);
+  key = PortKey(opened);
   return result;
 }
 
@@ -97,16 +98,16 @@ long Win32Platform::RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint3
   if (result == ERROR_ACCESS_DENIED) {
     result = RegOpenKeyExW(Root(root), Wide(name), 0, KEY_READ, &opened);
   }
-  key = Port(opened);
+  key = PortKey(opened);
   return result;
 }
 
 long Win32Platform::RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) {
   DWORD type = 0, size = 0;
-  LSTATUS result = RegQueryValueExW(Native(key), Wide(name), nullptr, &type, nullptr, &size);
+  LSTATUS result = RegQueryValueExW(NativeKey(key), Wide(name), nullptr, &type, nullptr, &size);
   if (result != ERROR_SUCCESS) return result;
   std::string bytes(size, '\0');
-  result = RegQueryValueExW(Native(key), Wide(name), nullptr, &type,
+  result = RegQueryValueExW(NativeKey(key), Wide(name), nullptr, &type,
                             reinterpret_cast<BYTE*>(bytes.data()), &size);
   if (result != ERROR_SUCCESS) return result;
   bytes.resize(size);
@@ -123,7 +124,7 @@ long Win32Platform::RegQueryValueEx(RegistryKey key, const Text& name, RegistryV
 }
 
 void Win32Platform::RegCloseKey(RegistryKey key) {
-  ::RegCloseKey(Native(key));
+  ::RegCloseKey(NativeKey(key));
 }
 
 }  // namespace trovex
