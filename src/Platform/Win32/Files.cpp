@@ -14,9 +14,13 @@ namespace {
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr std::size_t kLargestPiece = 1 << 24;  // of one call of the system
 
-bool IsDirectory(const Text& verbatim) {
+bool HasAttribute(const Text& verbatim, DWORD attribute) {
   const DWORD attributes = GetFileAttributesW(Wide(verbatim));
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute);
+}
+
+bool IsDirectory(const Text& verbatim) {
+  return HasAttribute(verbatim, FILE_ATTRIBUTE_DIRECTORY);
 }
 
 bool IsDirectoryMissing(const Text& verbatim) {
@@ -204,9 +208,13 @@ FileHandle Win32Platform::OpenRead(const Text& name) {
   return Keep(OpenSource(name));
 }
 
-// Emptied after it was opened: the system would refuse to create over a hidden file.
+// Emptied after it was opened: the system would refuse to create over a hidden file. Not every file
+// system holds to the read-only attribute by itself.
 FileHandle Win32Platform::OpenWrite(const Text& name) {
   const Text verbatim = Openable(name);
+  if (HasAttribute(verbatim, FILE_ATTRIBUTE_READONLY)) {
+    throw RuntimeError(ErrorNumber::kPermissionDenied);
+  }
   OwnedFile file = OpenDiskFile(verbatim, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   if (!SetEndOfFile(file.get())) RaiseFor(verbatim, ::GetLastError());
   return Keep(std::move(file));

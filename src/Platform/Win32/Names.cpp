@@ -1,5 +1,7 @@
 #include "Platform/Win32/Names.h"
 
+#include <algorithm>
+
 #include "Platform/Win32/Windows.h"
 
 namespace trovex {
@@ -18,8 +20,7 @@ bool IsSlash(char16_t unit) {
 void AppendLevel(Text& path, TextView level) {
   if (level.empty() || level == u".") return;
   if (level == u"..") {
-    const std::size_t last = path.find_last_of(u'\\');
-    if (last > 1) path.resize(last);
+    path.resize(std::min(path.find_last_of(u'\\'), path.size()));  // a root has no parent
     return;
   }
   path.push_back(u'\\');

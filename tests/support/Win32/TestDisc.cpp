@@ -43,12 +43,14 @@ void Empty(const Text& directory) {
 }
 
 void RemoveAll(const Text& name) {
+  const DWORD attributes = GetFileAttributesW(Wide(name));
   SetFileAttributesW(Wide(name), FILE_ATTRIBUTE_NORMAL);
   if (!IsDirectory(name)) {
     if (!DeleteFileW(Wide(name))) Fail("cannot remove " + ToUtf8(name));
     return;
   }
-  Empty(name);
+  // A link goes; what it leads to stays.
+  if (!(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) Empty(name);
   if (!RemoveDirectoryW(Wide(name))) Fail("cannot remove " + ToUtf8(name));
 }
 
@@ -57,7 +59,7 @@ void EmptyDrive() {
 }
 
 void MakeDirectories(const Text& name) {
-  if (IsDirectory(name)) return;
+  if (name.ends_with(u':') || IsDirectory(name)) return;
   MakeDirectories(name.substr(0, name.find_last_of(u'\\')));
   if (!CreateDirectoryW(Wide(name), nullptr)) Fail("cannot make " + ToUtf8(name));
 }

@@ -1,0 +1,148 @@
+// What only Windows has: a current directory on each of several drives, devices that hide behind
+// names, read-only files, files in use, the process's environment.
+#include "Platform/Win32/Handles.h"
+#include "Platform/Win32/Names.h"
+#include "Platform/Win32/Windows.h"
+#include "Platform/contract/Contract.h"
+
+namespace trovex::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+class Win32PlatformTest : public Contract {
+ protected:
+  Text SystemDirectory() {
+    Text directory;
+    platform_.GetSystemDirectory(directory, 255);
+    return directory;
+  }
+  void SetAttributes(const Text& name, DWORD attributes) {
+    ASSERT_TRUE(SetFileAttributesW(Wide(name), attributes));
+  }
+  // The name of a link to the Windows directory: one made for the test, or under Wine, which cannot
+  // make any, the one that stands ready.
+  Text MakeLink() {
+    if (CurrentHostSystem() == HostSystem::kWine) return u"C:\\trovex-link";
+    constexpr DWORD kUnprivileged = 2;
+    Text windows;
+    platform_.GetWindowsDirectory(windows, 255);
+    EXPECT_TRUE(CreateSymbolicLinkW(L"D:\\trovex-link", Wide(windows),
+                                    SYMBOLIC_LINK_FLAG_DIRECTORY | kUnprivileged));
+    return u"D:\\trovex-link";
+  }
+};
+
+// --- Current directories ------------------------------------------------------------------------
+
+TEST_F(Win32PlatformTest, EachDriveHasACurrentDirectory) {
+  disc_.Directory("JEUX");
+  platform_.ChangeDirectory(u"D:\\JEUX");
+  platform_.ChangeDirectory(SystemDirectory());
+  EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\JEUX");
+  platform_.ChangeDrive(u"C:");
+  EXPECT_EQ(platform_.GetCurrentDirectory(), SystemDirectory());
+  platform_.ChangeDrive(u"D:\\");
+  EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\JEUX");
+}
+
+TEST_F(Win32PlatformTest, ADirectoryThatHasGoneGivesWayToItsRoot) {
+  disc_.Directory("JEUX");
+  platform_.ChangeDrive(u"C:");
+  platform_.ChangeDirectory(u"D:\\JEUX");
+  disc_.Remove("JEUX");
+  platform_.ChangeDrive(u"D:");
+  EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\");
+}
+
+// --- Surroundings -------------------------------------------------------------------------------
+
+TEST_F(Win32PlatformTest, TheEnvironmentIsTheProcesss) {
+  SetEnvironmentVariableW(L"TROVEX_ESSAI", L"D:\\Temp \u20AC");
+  EXPECT_EQ(platform_.GetEnvironmentVariable(u"trovex_essai"), u"D:\\Temp \u20AC");
+  SetEnvironmentVariableW(L"TROVEX_ESSAI", nullptr);
+  EXPECT_EQ(platform_.GetEnvironmentVariable(u"TROVEX_ESSAI"), u"");
+}
+
+TEST_F(Win32PlatformTest, TheProgramStandsInItsDirectory) {
+  const Text directory = platform_.GetProgramDirectory();
+  EXPECT_THAT(FindAll(directory + u"\\test_platform.exe"), ElementsAre(u"test_platform.exe"));
+}
+
+TEST_F(Win32PlatformTest, ErrorCodesHaveTheSystemsText) {
+  EXPECT_NE(platform_.FormatMessage(ERROR_ACCESS_DENIED), u"");
+  EXPECT_NE(platform_.FormatMessage(ERROR_ACCESS_DENIED),
+            platform_.FormatMessage(ERROR_FILE_NOT_FOUND));
+  EXPECT_EQ(platform_.FormatMessage(0xDEADBEEF), u"");
+}
+
+// --- Names that are no files --------------------------------------------------------------------
+
+TEST_F(Win32PlatformTest, DevicesAreNeitherFoundNorOpened) {
+  for (const Text& name : {Text(u"NUL"), Text(u"con"), Text(u"COM1"), Text(u"\\\\.\\NUL"),
+                           Text(u"\\\\.\\COM1"), Text(u"\\\\.\\PhysicalDrive0")}) {
+    FileStatus status;
+    EXPECT_FALSE(platform_.GetFileStatus(name, status));
+    EXPECT_EQ(ErrorOf([&] { platform_.OpenRead(name); }), ErrorNumber::kPathFileAccess);
+    EXPECT_EQ(ErrorOf([&] { platform_.OpenWrite(name); }), ErrorNumber::kPathFileAccess);
+    EXPECT_EQ(ErrorOf([&] { platform_.DeleteFile(name); }), ErrorNumber::kPathFileAccess);
+    EXPECT_EQ(platform_.GetFileVersionInfoSize(name), 0U);
+  }
+}
+
+TEST_F(Win32PlatformTest, ALinkToADirectoryIsNoEntry) {
+  const Text link = MakeLink();
+  FileStatus status;
+  EXPECT_TRUE(platform_.GetFileStatus(link + u"\\system32", status));
+  EXPECT_THAT(FindAll(link), IsEmpty());
+  EXPECT_THAT(FindAll(link + u"*"), IsEmpty());
+}
+
+// --- Files that are held fast -------------------------------------------------------------------
+
+TEST_F(Win32PlatformTest, AReadOnlyFileIsNeitherReplacedNorDeleted) {
+  disc_.File("A.TXT", "ancien");
+  disc_.File("B.TXT", "nouveau");
+  SetAttributes(u"D:\\A.TXT", FILE_ATTRIBUTE_READONLY);
+  FileStatus status;
+  ASSERT_TRUE(platform_.GetFileStatus(u"D:\\A.TXT", status));
+  EXPECT_TRUE(status.attributes & kAttributeReadOnly);
+  EXPECT_EQ(ErrorOf([&] { platform_.DeleteFile(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(ErrorOf([&] { platform_.OpenWrite(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(ErrorOf([&] { platform_.CopyFile(u"D:\\B.TXT", u"D:\\A.TXT"); }),
+            ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(Contents(u"D:\\A.TXT"), "ancien");
+  EXPECT_THAT(FindAll(u"D:\\*"), UnorderedElementsAre(u"A.TXT", u"B.TXT"));
+}
+
+TEST_F(Win32PlatformTest, AFileInUseIsRefused) {
+  disc_.File("A.TXT", "ancien");
+  const OwnedFile held = OwnFile(CreateFileW(L"D:\\A.TXT", GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  ASSERT_TRUE(held);
+  EXPECT_EQ(ErrorOf([&] { platform_.OpenRead(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(ErrorOf([&] { platform_.OpenWrite(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(ErrorOf([&] { platform_.DeleteFile(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
+}
+
+// What is being written can be looked at, but not written by somebody else.
+TEST_F(Win32PlatformTest, AFileBeingWrittenIsShownToReaders) {
+  const FileHandle file = platform_.OpenWrite(u"D:\\A.TXT");
+  platform_.Write(file, "abc", 3);
+  EXPECT_EQ(Contents(u"D:\\A.TXT"), "abc");
+  EXPECT_EQ(ErrorOf([&] { platform_.OpenWrite(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
+  platform_.Close(file);
+}
+
+TEST_F(Win32PlatformTest, HandlesOfNothingAreRefused) {
+  char unit = 0;
+  EXPECT_EQ(ErrorOf([&] { platform_.Read(FileHandle::kInvalid, &unit, 1); }),
+            ErrorNumber::kBadFileNumber);
+  EXPECT_EQ(ErrorOf([&] { platform_.Write(FileHandle{12345}, &unit, 1); }),
+            ErrorNumber::kBadFileNumber);
+}
+
+}  // namespace
+}  // namespace trovex::test
