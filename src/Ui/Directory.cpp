@@ -27,6 +27,7 @@ bool DirectoryExists(const Text& directory) {
 }
 
 bool ReadDirectory(const Text& directory, const std::function<void(const FindData&)>& visit) {
+  if (directory.empty()) return false;  // a search would look at the root
   Platform& platform = CurrentPlatform();
   FindData data;
   const FindHandle handle = platform.FindFirstFile(WithBackslash(directory) + u"*.*", data);

@@ -1,0 +1,201 @@
+#include "Scanner/TextLines.h"
+
+#include "Platform/Encoding.h"
+#include "Platform/ForwardingPlatform.h"
+#include "support/ExecutableBuilder.h"
+#include "support/LogicTest.h"
+
+namespace trovex::test {
+namespace {
+
+// Reads that are counted, and fail from a byte on.
+class ReadPlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+
+  std::size_t Read(FileHandle file, void* buffer, std::size_t size) override {
+    if (bytes >= fails_from) throw RuntimeError(ErrorNumber::kDeviceIo);
+    const std::size_t read = ForwardingPlatform::Read(file, buffer, size);
+    bytes += read;
+    return read;
+  }
+  FileHandle OpenRead(const Text& name) override {
+    if (open_fails) throw RuntimeError(ErrorNumber::kPermissionDenied);
+    ++open;
+    return ForwardingPlatform::OpenRead(name);
+  }
+  void Close(FileHandle file) override {
+    --open;
+    ForwardingPlatform::Close(file);
+  }
+
+  std::size_t bytes = 0;
+  std::size_t fails_from = static_cast<std::size_t>(-1);
+  bool open_fails = false;
+  int open = 0;
+};
+
+class TextLinesTest : public LogicTest {
+ protected:
+  void TearDown() override {
+    EXPECT_EQ(platform_.open, 0) << "a file was left open";
+    LogicTest::TearDown();
+  }
+  Text First(std::string_view contents) {
+    disc.File("LISEZMOI.TXT", contents);
+    return sPremiereLigne(u"D:\\LISEZMOI.TXT");
+  }
+  Text Second(std::string_view contents) {
+    disc.File("LISEZMOI.TXT", contents);
+    return sDeuxiemeLigne(u"D:\\LISEZMOI.TXT");
+  }
+
+  ReadPlatform platform_{disc.GetPlatform()};
+  PlatformScope scope_{platform_};
+};
+
+TEST_F(TextLinesTest, ALineEndsAtAnyLineEnd) {
+  for (const char* contents : {"un\r\ndeux\r\n", "un\ndeux\n", "un\rdeux\r", "un\r\ndeux"}) {
+    EXPECT_EQ(First(contents), u"un") << contents;
+    EXPECT_EQ(Second(contents), u"deux") << contents;
+  }
+}
+
+TEST_F(TextLinesTest, AnEmptyLineIsALine) {
+  EXPECT_EQ(First("\r\ndeux"), u"");
+  EXPECT_EQ(Second("\r\ndeux"), u"deux");
+  EXPECT_EQ(Second("un\r\n\r\ntrois"), u"");
+  EXPECT_EQ(Second("un\n\ntrois"), u"");
+}
+
+TEST_F(TextLinesTest, FewerLinesGiveAnEmptyText) {
+  EXPECT_EQ(First(""), u"");
+  EXPECT_EQ(Second(""), u"");
+  EXPECT_EQ(Second("un seul"), u"");
+  EXPECT_EQ(Second("un seul\r\n"), u"");
+}
+
+TEST_F(TextLinesTest, BytesAreOfWindows1252) {
+  EXPECT_EQ(First(ToCp1252(u"Été à 10 €")), u"Été à 10 €");
+}
+
+TEST_F(TextLinesTest, NothingIsTrimmed) {
+  EXPECT_EQ(First("\t un \t\r\n"), u"\t un \t");
+}
+
+TEST_F(TextLinesTest, ABlankNameGivesAnEmptyLineWithoutABox) {
+  EXPECT_EQ(sPremiereLigne(u""), u"");
+  EXPECT_EQ(sDeuxiemeLigne(u"  "), u"");
+}
+
+TEST_F(TextLinesTest, ALineIsCutWhereItsCallerWants) {
+  disc.File("A.TXT", std::string(200, 'a') + "\r\n" + std::string(200, 'b'));
+  EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT", 95), Text(95, u'a'));
+  EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT", 95), Text(95, u'b'));
+  EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT"), Text(200, u'a'));
+  EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT"), Text(200, u'b'));
+  EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT", 200), Text(200, u'a'));
+}
+
+TEST_F(TextLinesTest, LineEndsAreSeenWhereverThePiecesOfAFileEnd) {
+  for (std::size_t length : {4094u, 4095u, 4096u, 4097u, 8191u, 8192u}) {
+    disc.File("A.TXT", std::string(length, 'a') + "\r\ndeux\r\n");
+    EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT").size(), length);
+    EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT"), u"deux") << length;
+  }
+}
+
+TEST_F(TextLinesTest, AFileThatCannotBeOpenedIsReportedAndGivesAnEmptyLine) {
+  view.Answer(BoxAnswer::kOk);
+  EXPECT_EQ(sPremiereLigne(u"D:\\RIEN.TXT"), u"");
+  EXPECT_EQ(LastBox(), u"Ouverture impossibleD:\\RIEN.TXT");
+  EXPECT_EQ(view.Boxes()[0].style, BoxStyle::kErreur);
+  disc.File("A.TXT", "un");
+  platform_.open_fails = true;
+  view.Answer(BoxAnswer::kOk);
+  EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT"), u"");
+  EXPECT_TRUE(LastBox().starts_with(u"Ouverture impossibleD:\\A.TXT"));
+}
+
+TEST_F(TextLinesTest, AnErrorWhileReadingClosesTheFileAndGivesTheSameBox) {
+  platform_.fails_from = 0;
+  view.Answer(BoxAnswer::kOk);
+  EXPECT_EQ(First("un\r\n"), u"");
+  EXPECT_TRUE(LastBox().starts_with(u"Ouverture impossibleD:\\LISEZMOI.TXT"));
+  platform_.fails_from = 4096;
+  view.Answer(BoxAnswer::kOk);
+  EXPECT_EQ(Second(std::string(5000, 'a') + "\r\ndeux"), u"");
+  EXPECT_EQ(BoxCount(), 2u);
+  EXPECT_EQ(Err().number, 0) << "the box has taken the error";
+}
+
+TEST_F(TextLinesTest, ALargeFileWithoutLineEndIsNotReadThrough) {
+  disc.File("README.TXT", "Un jeu");
+  std::filesystem::resize_file(disc.HostPath("README.TXT"), 100'000'000);
+  EXPECT_TRUE(sPremiereLigne(u"D:\\README.TXT", 95).starts_with(u"Un jeu"));
+  EXPECT_LE(platform_.bytes, 65536u);
+  EXPECT_EQ(sPremiereLigne(u"D:\\README.TXT").size(), kLongestLine);
+  EXPECT_LE(platform_.bytes, 2 * 65536u);
+}
+
+TEST_F(TextLinesTest, OnlyTheFirstTwoLinesOfALargeFileAreRead) {
+  disc.File("README.TXT", "un\r\ndeux\r\n");
+  std::filesystem::resize_file(disc.HostPath("README.TXT"), 100'000'000);
+  EXPECT_EQ(sDeuxiemeLigne(u"D:\\README.TXT"), u"deux");
+  EXPECT_LE(platform_.bytes, 65536u);
+}
+
+// vNomProduit of files whose record a test spells.
+class RecordPlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  std::uint32_t GetFileVersionInfoSize(const Text&) override {
+    if (fails) throw RuntimeError(ErrorNumber::kDeviceIo);
+    return static_cast<std::uint32_t>(record.size());
+  }
+  bool GetFileVersionInfo(const Text&, std::uint32_t, std::string& block) override {
+    block = record;
+    return readable;
+  }
+  std::string record;
+  bool fails = false, readable = true;
+};
+
+class ProductNameTest : public LogicTest {
+ protected:
+  Text NameIn(std::string record) {
+    platform_.record = std::move(record);
+    return vNomProduit(u"D:\\A.EXE");
+  }
+  RecordPlatform platform_{disc.GetPlatform()};
+  PlatformScope scope_{platform_};
+  const Text none_ = u"Ne contient pas de nom produit.";
+};
+
+TEST_F(ProductNameTest, IsNotCutAtTheNul) {
+  EXPECT_EQ(NameIn(std::string("xProductName\0Jeu\0suite", 22)), Text(u"Jeu\0suite", 9));
+}
+
+TEST_F(ProductNameTest, ARecordThatEndsBehindTheKeyGivesAnEmptyText) {
+  EXPECT_EQ(NameIn("ProductName"), u"");
+}
+
+TEST_F(ProductNameTest, IsOfWindows1252) {
+  EXPECT_EQ(NameIn(std::string("ProductName\0", 12) + ToCp1252(u"Échecs")), u"Échecs");
+}
+
+TEST_F(ProductNameTest, AFileWithoutOneSaysSo) {
+  EXPECT_EQ(NameIn(""), none_);
+  EXPECT_EQ(NameIn("productname\0Jeu"), none_);
+  platform_.readable = false;
+  EXPECT_EQ(NameIn(std::string("ProductName\0Jeu\0", 16)), none_);
+  platform_.fails = true;
+  EXPECT_EQ(NameIn(std::string("ProductName\0Jeu\0", 16)), none_);
+}
+
+TEST_F(ProductNameTest, AnEmptyNameGivesAnEmptyText) {
+  EXPECT_EQ(vNomProduit(u""), u"");
+}
+
+}  // namespace
+}  // namespace trovex::test

@@ -1,0 +1,266 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Platform/ForwardingPlatform.h"
+#include "Ui/FileListBox.h"
+#include "support/TestDisc.h"
+
+namespace trovex::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+ErrorNumber ErrorOf(const std::function<void()>& operation) {
+  try {
+    operation();
+  } catch (const RuntimeError& error) {
+    return error.Kind();
+  }
+  ADD_FAILURE() << "no error was raised";
+  return {};
+}
+
+template <typename ListControl>
+std::vector<Text> Entries(const ListControl& list) {
+  std::vector<Text> entries;
+  for (int i = 0; i < list.ListCount(); ++i) entries.push_back(list.List(i));
+  return entries;
+}
+
+class FileListBoxTest : public testing::Test {
+ protected:
+  TestDisc disc_;
+  FileListBox list_;
+};
+
+TEST_F(FileListBoxTest, ListsThePlainNamesOfFilesOnly) {
+  disc_.File("JEUX/DAMES.EXE");
+  disc_.File("JEUX/LISEZMOI.TXT");
+  disc_.File("JEUX/SOUS/AUTRE.EXE");
+  list_.SetPath(u"D:\\JEUX");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"DAMES.EXE", u"LISEZMOI.TXT"));
+}
+
+TEST_F(FileListBoxTest, ADirectoryNamedAsAProgramIsNoFile) {
+  disc_.Directory("SETUP.EXE");
+  disc_.File("JEU.EXE");
+  list_.SetPath(u"D:\\");
+  list_.SetPattern(u"*.exe");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"JEU.EXE"));
+}
+
+TEST_F(FileListBoxTest, OrdersUpperCasedNamesByCodeUnit) {
+  for (const char* name :
+       {"zoo.exe", "_ISDEL.EXE", "B.exe", "a.exe", "10.EXE", "9.exe", "A1.EXE"}) {
+    disc_.File(name);
+  }
+  list_.SetPath(u"D:\\");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"10.EXE", u"9.exe", u"a.exe", u"A1.EXE", u"B.exe",
+                                          u"zoo.exe", u"_ISDEL.EXE"));
+}
+
+TEST_F(FileListBoxTest, SeveralPatternsListANameOnce) {
+  for (const char* name : {"A.ZIP", "B.exe", "C.TXT", "D.EXE.ZIP", "E.exe2", "EXE"}) {
+    disc_.File(name);
+  }
+  list_.SetPath(u"D:\\");
+  list_.SetPattern(u"*.exe;*.zip");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"A.ZIP", u"B.exe", u"D.EXE.ZIP"));
+  list_.SetPattern(u" *.e* ; ;*.exe");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"B.exe", u"D.EXE.ZIP", u"E.exe2"));
+}
+
+TEST_F(FileListBoxTest, HiddenFilesTakePartIfSwitchedOn) {
+  disc_.File(".CACHE.EXE");
+  disc_.Hide(".CACHE.EXE");
+  disc_.File("JEU.EXE");
+  list_.SetPath(u"D:\\");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"JEU.EXE"));
+  list_.SetHidden(true);
+  list_.SetSystem(true);
+  list_.SetPattern(u"*.exe");
+  EXPECT_THAT(Entries(list_), ElementsAre(u".CACHE.EXE", u"JEU.EXE"));
+}
+
+// One search, with attributes that no test can set on every system.
+class SystemFilePlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  FindHandle FindFirstFile(const Text&, FindData& data) override {
+    data = {kAttributeSystem, u"IO.SYS"};
+    return FindHandle{7};
+  }
+  bool FindNextFile(FindHandle, FindData&) override { return false; }
+  void FindClose(FindHandle) override {}
+};
+
+TEST_F(FileListBoxTest, SystemFilesTakePartIfSwitchedOn) {
+  SystemFilePlatform platform(disc_.GetPlatform());
+  PlatformScope scope(platform);
+  list_.SetPath(u"D:\\");
+  EXPECT_THAT(Entries(list_), IsEmpty());
+  list_.SetSystem(true);
+  list_.SetPath(u"D:\\");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"IO.SYS"));
+}
+
+TEST_F(FileListBoxTest, AMissingDirectoryRaisesAndKeepsTheFormerOne) {
+  disc_.File("JEUX/A.EXE");
+  list_.SetPath(u"D:\\JEUX\\");
+  EXPECT_EQ(ErrorOf([&] { list_.SetPath(u"D:\\RIEN"); }), ErrorNumber::kPathNotFound);
+  EXPECT_EQ(ErrorOf([&] { list_.SetPath(u"D:\\JEUX\\A.EXE"); }), ErrorNumber::kPathNotFound);
+  EXPECT_EQ(ErrorOf([&] { list_.SetPath(u""); }), ErrorNumber::kPathNotFound);
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"A.EXE"));
+}
+
+TEST_F(FileListBoxTest, AnEmptyRootIsADirectoryWithoutFiles) {
+  list_.SetPath(u"D:\\");
+  EXPECT_EQ(list_.Path(), u"D:\\");
+  EXPECT_EQ(list_.ListCount(), 0);
+  EXPECT_EQ(list_.List(0), u"");
+  EXPECT_EQ(list_.List(-1), u"");
+}
+
+TEST_F(FileListBoxTest, APatternWithoutPathReadsNothing) {
+  list_.SetPattern(u"*.exe");
+  EXPECT_EQ(list_.ListCount(), 0);
+}
+
+TEST_F(FileListBoxTest, ThePatternReadsTheDirectoryAgain) {
+  disc_.File("A.EXE");
+  list_.SetPath(u"D:\\");
+  disc_.File("B.EXE");
+  list_.SetPattern(u"*.exe");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"A.EXE", u"B.EXE"));
+}
+
+class DirListBoxTest : public testing::Test {
+ protected:
+  TestDisc disc_;
+  DirListBox list_;
+};
+
+TEST_F(DirListBoxTest, ListsTheChildrenAsFullNames) {
+  disc_.Directory("JEUX/ZOO");
+  disc_.Directory("JEUX/arbre");
+  disc_.File("JEUX/FICHIER.EXE");
+  list_.SetPath(u"D:\\JEUX");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"D:\\JEUX\\arbre", u"D:\\JEUX\\ZOO"));
+  EXPECT_EQ(list_.ListIndex(), -1);
+  EXPECT_EQ(list_.List(2), u"");
+}
+
+TEST_F(DirListBoxTest, NegativeIndicesClimbToTheRoot) {
+  disc_.Directory("JEUX/DAMES");
+  list_.SetPath(u"D:\\JEUX\\DAMES");
+  EXPECT_EQ(list_.Depth(), 2);
+  EXPECT_EQ(list_.List(-1), u"D:\\JEUX\\DAMES");
+  EXPECT_EQ(list_.List(-2), u"D:\\JEUX");
+  EXPECT_EQ(list_.List(-3), u"D:\\");
+  EXPECT_EQ(list_.List(-4), u"");
+}
+
+TEST_F(DirListBoxTest, TheRootKeepsItsBackslash) {
+  disc_.Directory("JEUX");
+  list_.SetPath(u"D:\\");
+  EXPECT_EQ(list_.List(-1), u"D:\\");
+  EXPECT_EQ(list_.List(0), u"D:\\JEUX");
+  EXPECT_EQ(list_.Depth(), 0);
+}
+
+TEST_F(DirListBoxTest, ADriveStandsForItsRoot) {
+  disc_.Directory("JEUX");
+  list_.SetPath(u"d: [DISQUE]");
+  EXPECT_EQ(list_.Path(), u"D:\\");
+  list_.SetPath(u"D:\\JEUX\\");
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+  list_.SetPath(u"d:");
+  EXPECT_EQ(list_.Path(), u"D:\\");
+}
+
+TEST_F(DirListBoxTest, TheHighlightedEntryIsNotYetThePath) {
+  disc_.Directory("JEUX/DAMES");
+  int changes = 0;
+  list_.on_change = [&] { ++changes; };
+  list_.SetPath(u"D:\\");
+  list_.SetListIndex(0);
+  EXPECT_EQ(list_.Path(), u"D:\\");
+  EXPECT_EQ(list_.List(list_.ListIndex()), u"D:\\JEUX");
+  EXPECT_EQ(changes, 1);
+  list_.Open();
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+  EXPECT_EQ(list_.ListIndex(), -1);
+  EXPECT_EQ(changes, 2);
+  list_.SetListIndex(-2);
+  list_.Open();
+  EXPECT_EQ(list_.Path(), u"D:\\");
+}
+
+TEST_F(DirListBoxTest, AnEntryThatDoesNotExistCannotBeHighlighted) {
+  disc_.Directory("JEUX");
+  list_.SetPath(u"D:\\");
+  EXPECT_EQ(ErrorOf([&] { list_.SetListIndex(1); }), ErrorNumber::kInvalidProperty);
+  EXPECT_EQ(ErrorOf([&] { list_.SetListIndex(-2); }), ErrorNumber::kInvalidProperty);
+}
+
+TEST_F(DirListBoxTest, AMissingDirectoryOrDriveRaisesAndKeepsTheFormerPath) {
+  disc_.Directory("JEUX");
+  list_.SetPath(u"D:\\JEUX");
+  EXPECT_EQ(ErrorOf([&] { list_.SetPath(u"D:\\RIEN"); }), ErrorNumber::kPathNotFound);
+  EXPECT_EQ(ErrorOf([&] { list_.SetPath(u"Q:\\"); }), ErrorNumber::kDeviceUnavailable);
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+}
+
+// Drives that a test spells out.
+class DrivesPlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  std::uint32_t GetLogicalDrives() override { return 1u << 0 | 1u << 2 | 1u << 25; }
+  Text GetVolumeLabel(const Text& root) override { return root == u"C:\\" ? u"SYSTEME" : u""; }
+  Text GetCurrentDirectory() override { return u"c:\\JEUX"; }
+};
+
+class DriveListBoxTest : public testing::Test {
+ protected:
+  DriveListBoxTest() {
+    list_.on_change = [this] { ++changes_; };
+    list_.Reread();
+  }
+  TestDisc disc_;
+  DrivesPlatform platform_{disc_.GetPlatform()};
+  PlatformScope scope_{platform_};
+  DriveListBox list_;
+  int changes_ = 0;
+};
+
+TEST_F(DriveListBoxTest, ListsTheDrivesWithTheirLabels) {
+  EXPECT_THAT(Entries(list_), ElementsAre(u"a:", u"c: [SYSTEME]", u"z:"));
+}
+
+TEST_F(DriveListBoxTest, SelectsTheCurrentDriveWithoutAnEvent) {
+  EXPECT_EQ(list_.Drive(), u"c: [SYSTEME]");
+  EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(DriveListBoxTest, ANewDriveRaisesTheChange) {
+  list_.SetDrive(u"Z:\\JEUX");
+  EXPECT_EQ(list_.Drive(), u"z:");
+  EXPECT_EQ(changes_, 1);
+  list_.SetListIndex(2);
+  EXPECT_EQ(changes_, 1) << "the one already selected";
+  list_.SetListIndex(0);
+  EXPECT_EQ(changes_, 2);
+}
+
+TEST_F(DriveListBoxTest, ADriveThatIsNotThereIsAnError) {
+  EXPECT_EQ(ErrorOf([&] { list_.SetDrive(u"q:"); }), ErrorNumber::kDeviceUnavailable);
+  EXPECT_EQ(ErrorOf([&] { list_.SetDrive(u""); }), ErrorNumber::kDeviceUnavailable);
+  EXPECT_EQ(ErrorOf([&] { list_.SetListIndex(3); }), ErrorNumber::kInvalidProperty);
+  EXPECT_EQ(ErrorOf([&] { list_.SetListIndex(-1); }), ErrorNumber::kInvalidProperty);
+  EXPECT_EQ(list_.Drive(), u"c: [SYSTEME]");
+}
+
+}  // namespace
+}  // namespace trovex::test
