@@ -1,6 +1,7 @@
 // The catalogue on its way out: as JSON, and as tables for a person to read.
 #pragma once
 
+#include <array>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -12,8 +13,16 @@ namespace trovex::cli {
 // True if the table holds no entry: its one data row is blank.
 bool IsEmptyTable(const Grid& grid);
 
-// The whole catalogue as one JSON text with a line end; cells stand as in the grids.
-std::string ToJson(MainForm& form, const Text& start, const std::vector<Box>& boxes);
+// What a click on each row showed, a JSON object a row, table by table.
+using Inspection = std::array<std::vector<std::string>, kTableCount>;
+
+// Clicks every row of tables 0, 1 and 2, without changing the tab.
+Inspection InspectRows(MainForm& form);
+
+// The whole catalogue as one JSON text with a line end; cells stand as in the grids. `inspection`
+// may be null.
+std::string ToJson(MainForm& form, const Text& start, const Inspection* inspection,
+                   const std::vector<Box>& boxes);
 
 // The three tables with their names and counts.
 void PrintTables(MainForm& form, std::ostream& out);

@@ -4,8 +4,10 @@
 
 #include "Apps/trovex-cli/Catalogue.h"
 #include "Apps/trovex-cli/Options.h"
+#include "Lib/LIB_INI.h"
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
+#include "Scanner/LIB_GENERALE.h"
 #include "Ui/Directory.h"
 #include "Ui/Headless/HeadlessView.h"
 
@@ -74,25 +76,35 @@ int Complain(std::ostream& err, const std::string& complaint) {
 // The program from its start to the end of its work, on a host and a view that are in place.
 class Session {
  public:
-  Session(const Options& options, HeadlessView& view) : options_(options), view_(view) {}
+  Session(const Options& options, Host& host, HeadlessView& view)
+      : options_(options), host_(host), view_(view) {}
 
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
-    form.Show();
+    Main(form);
+    if (options_.ini) sFichierIni = host_.NameOf(*options_.ini);
     form.ListeRepertoire.SetPath(start);
     form.Explorer.Press();
+    std::optional<Inspection> inspection;
+    if (options_.inspect) inspection = InspectRows(form);
+    Print(form, start, inspection ? &*inspection : nullptr, out);
+    form.Quitter.Press();
+    return kDone;
+  }
+
+ private:
+  void Print(MainForm& form, const Text& start, const Inspection* inspection, std::ostream& out) {
     if (options_.json) {
-      out << ToJson(form, start, view_.Boxes());
+      out << ToJson(form, start, inspection, view_.Boxes());
     } else if (!options_.quiet) {
       PrintTables(form, out);
     }
     out.flush();
     if (!out) throw RuntimeError(ErrorNumber::kDiskFull, u"trovex-cli");
-    return kDone;
   }
 
- private:
   const Options& options_;
+  Host& host_;
   HeadlessView& view_;
 };
 
@@ -125,7 +137,7 @@ int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
   }
   try {
     Progress progress(view, err, err_is_terminal && !options.quiet);
-    return Session(options, view).Work(start, out);
+    return Session(options, *host, view).Work(start, out);
   } catch (const RuntimeError& error) {
     err << MessageOf(error) << '\n';
     return kRuntimeError;

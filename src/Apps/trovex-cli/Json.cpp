@@ -3,21 +3,43 @@
 #include "Apps/trovex-cli/Catalogue.h"
 #include "Platform/Encoding.h"
 
+// Objects are built one by one and joined as text: the memory of a whole tree of values would be
+// many times that of what they say.
+
 namespace trovex::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Row(const Grid& grid, int row) {
-  Json cells = Json::array();
-  for (int col = 0; col < grid.Cols(); ++col) cells.push_back(ToStrictUtf8(grid.Cell(row, col)));
-  return cells;
+std::string Dump(TextView text) {
+  return Json(ToStrictUtf8(text)).dump();
 }
 
-Json TableOf(const Grid& grid) {
-  Json rows = Json::array();
-  for (int row = 1; row < grid.Rows() && !IsEmptyTable(grid); ++row) rows.push_back(Row(grid, row));
-  return {{"titles", Row(grid, 0)}, {"rows", std::move(rows)}};
+// `count` elements behind each other, as a JSON array.
+template <typename Element>
+std::string ArrayOf(int count, Element element) {
+  std::string array = "[";
+  for (int i = 0; i < count; ++i) {
+    if (i > 0) array += ',';
+    array += element(i);
+  }
+  return array + "]";
+}
+
+std::string RowOf(const Grid& grid, int row) {
+  return ArrayOf(grid.Cols(), [&](int col) { return Dump(grid.Cell(row, col)); });
+}
+
+std::string TableOf(const Grid& grid, const std::vector<std::string>* details) {
+  const int rows = IsEmptyTable(grid) ? 0 : grid.Rows() - 1;
+  std::string table = R"({"titles":)" + RowOf(grid, 0) + R"(,"rows":)";
+  table += ArrayOf(rows, [&](int i) { return RowOf(grid, i + 1); });
+  if (details != nullptr) {
+    const int count = static_cast<int>(details->size());
+    table += R"(,"details":)";
+    table += ArrayOf(count, [&](int i) { return (*details)[static_cast<std::size_t>(i)]; });
+  }
+  return table + "}";
 }
 
 const char* KindOf(BoxStyle style) {
@@ -32,27 +54,58 @@ const char* KindOf(BoxStyle style) {
   return "info";
 }
 
-Json MessagesOf(const std::vector<Box>& boxes) {
-  Json messages = Json::array();
-  for (const Box& box : boxes) {
-    messages.push_back({{"kind", KindOf(box.style)},
+std::string MessageOf(const Box& box) {
+  const Json message = {{"kind", KindOf(box.style)},
                         {"title", ToStrictUtf8(box.title)},
-                        {"text", ToStrictUtf8(box.text)}});
+                        {"text", ToStrictUtf8(box.text)}};
+  return message.dump();
+}
+
+std::string DetailsOf(MainForm& form) {
+  Json details = {{"TextInfo", Json::array()}, {"ListFichier", Json::array()}};
+  for (int i = 0; i <= 5; ++i) {
+    details["TextInfo"].push_back(ToStrictUtf8(form.TextInfo(i).GetText()));
   }
-  return messages;
+  for (int i = 0; i < form.ListFichier.ListCount(); ++i) {
+    details["ListFichier"].push_back(ToStrictUtf8(form.ListFichier.List(i)));
+  }
+  details["ListFichier.Tag"] = ToStrictUtf8(form.ListFichier.Tag());
+  details["ListIndex"] = form.ListFichier.ListIndex();
+  details["visible"] = {{"TextInfo0", form.TextInfo(0).Visible()},
+                        {"LabelInfo2", form.LabelInfo(2).Visible()},
+                        {"PrintTexte", form.PrintTexte.Visible()},
+                        {"ImageSelect", form.ImageSelect.Visible()}};
+  return details.dump();
 }
 
 }  // namespace
 
-std::string ToJson(MainForm& form, const Text& start, const std::vector<Box>& boxes) {
-  Json tables = Json::array();
-  for (int i = 0; i < kTableCount; ++i) tables.push_back(TableOf(form.GridLogiciel(i)));
-  const Json catalogue = {{"start", ToStrictUtf8(start)},
-                          {"tab", form.ZoneDesTableaux.Tab()},
-                          {"count", ToStrictUtf8(form.TextInfo(6).GetText())},
-                          {"tables", std::move(tables)},
-                          {"messages", MessagesOf(boxes)}};
-  return catalogue.dump() + "\n";
+Inspection InspectRows(MainForm& form) {
+  Inspection inspection;
+  for (int i = 0; i < kTableCount; ++i) {
+    Grid& grid = form.GridLogiciel(i);
+    for (int row = 1; row < grid.Rows() && !IsEmptyTable(grid); ++row) {
+      grid.SetRow(row);
+      Raise(grid.on_click);
+      inspection[static_cast<std::size_t>(i)].push_back(DetailsOf(form));
+    }
+  }
+  return inspection;
+}
+
+std::string ToJson(MainForm& form, const Text& start, const Inspection* inspection,
+                   const std::vector<Box>& boxes) {
+  std::string json = R"({"start":)" + Dump(start);
+  json += R"(,"tab":)" + std::to_string(form.ZoneDesTableaux.Tab());
+  json += R"(,"count":)" + Dump(form.TextInfo(6).GetText()) + R"(,"tables":)";
+  json += ArrayOf(kTableCount, [&](int i) {
+    const auto* details = inspection ? &(*inspection)[static_cast<std::size_t>(i)] : nullptr;
+    return TableOf(form.GridLogiciel(i), details);
+  });
+  json += R"(,"messages":)";
+  json += ArrayOf(static_cast<int>(boxes.size()),
+                  [&](int i) { return MessageOf(boxes[static_cast<std::size_t>(i)]); });
+  return json + "}\n";
 }
 
 }  // namespace trovex::cli

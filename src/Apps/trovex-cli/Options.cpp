@@ -40,6 +40,9 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
       ->check(CLI::Validator(CheckDrive, "", "letter"));
   app.add_option("--start", options.start, "Starting directory, as D:\\JEUX")->type_name("PATH");
   app.add_flag("--json", options.json, "The catalogue as JSON on standard output");
+  app.add_flag("--inspect", options.inspect, "Adds to the JSON what a click on each row shows");
+  app.add_option("--ini", options.ini, "Settings file instead of Trovex.ini beside the program")
+      ->type_name("FILE");
   app.add_flag("--quiet", options.quiet, "No tables, no progress");
   app.set_version_flag("--version", std::string(kProgramName) + " " + kVersionText);
 

@@ -11,7 +11,9 @@ struct Options {
   std::string directory;
   char drive = 'D';
   std::optional<std::string> start;
+  std::optional<std::string> ini;  // a file name of the host's
   bool json = false;
+  bool inspect = false;
   bool quiet = false;
 };
 

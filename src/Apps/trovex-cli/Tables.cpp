@@ -58,7 +58,9 @@ void PrintTable(const Grid& grid, StringId name, std::ostream& out) {
 
 }  // namespace
 
-bool IsEmptyTable(const Grid& grid) { return grid.Rows() == 2 && grid.Cell(1, 2).empty(); }
+bool IsEmptyTable(const Grid& grid) {
+  return grid.Rows() == 2 && grid.Cell(1, 2).empty();
+}
 
 void PrintTables(MainForm& form, std::ostream& out) {
   for (int i = 0; i < kTableCount; ++i) {
