@@ -49,6 +49,16 @@ Text Openable(const Text& name) {
   return verbatim;
 }
 
+// The same for a file that is to be written or replaced. Not every file system holds to the
+// read-only attribute by itself.
+Text Writable(const Text& name) {
+  Text verbatim = Openable(name);
+  if (HasAttribute(verbatim, FILE_ATTRIBUTE_READONLY)) {
+    throw RuntimeError(ErrorNumber::kPermissionDenied);
+  }
+  return verbatim;
+}
+
 // A file on a disk. What opens as anything else (a pipe of a server) is closed again.
 OwnedFile OpenDiskFile(const Text& verbatim, DWORD access, DWORD share, DWORD disposition) {
   OwnedFile file = OwnFile(CreateFileW(Wide(verbatim), access, share, nullptr, disposition,
@@ -208,13 +218,9 @@ FileHandle Win32Platform::OpenRead(const Text& name) {
   return Keep(OpenSource(name));
 }
 
-// Emptied after it was opened: the system would refuse to create over a hidden file. Not every file
-// system holds to the read-only attribute by itself.
+// Emptied after it was opened: the system would refuse to create over a hidden file.
 FileHandle Win32Platform::OpenWrite(const Text& name) {
-  const Text verbatim = Openable(name);
-  if (HasAttribute(verbatim, FILE_ATTRIBUTE_READONLY)) {
-    throw RuntimeError(ErrorNumber::kPermissionDenied);
-  }
+  const Text verbatim = Writable(name);
   OwnedFile file = OpenDiskFile(verbatim, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   if (!SetEndOfFile(file.get())) RaiseFor(verbatim, ::GetLastError());
   return Keep(std::move(file));
@@ -238,7 +244,7 @@ void Win32Platform::Close(FileHandle file) {
 
 void Win32Platform::CopyFile(const Text& source, const Text& destination) {
   const OwnedFile from = OpenSource(source);
-  FileBeside copy(Openable(destination));
+  FileBeside copy(Writable(destination));
   std::array<char, 65536> piece;
   while (const std::size_t count = ReadAll(from.get(), piece.data(), piece.size())) {
     WriteAll(copy.Get(), piece.data(), count);

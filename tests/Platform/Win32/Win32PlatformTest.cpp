@@ -19,9 +19,6 @@ class Win32PlatformTest : public Contract {
     platform_.GetSystemDirectory(directory, 255);
     return directory;
   }
-  void SetAttributes(const Text& name, DWORD attributes) {
-    ASSERT_TRUE(SetFileAttributesW(Wide(name), attributes));
-  }
   // The name of a link to the Windows directory: one made for the test, or under Wine, which cannot
   // make any, the one that stands ready.
   Text MakeLink() {
@@ -100,22 +97,7 @@ TEST_F(Win32PlatformTest, ALinkToADirectoryIsNoEntry) {
   EXPECT_THAT(FindAll(link + u"*"), IsEmpty());
 }
 
-// --- Files that are held fast -------------------------------------------------------------------
-
-TEST_F(Win32PlatformTest, AReadOnlyFileIsNeitherReplacedNorDeleted) {
-  disc_.File("A.TXT", "ancien");
-  disc_.File("B.TXT", "nouveau");
-  SetAttributes(u"D:\\A.TXT", FILE_ATTRIBUTE_READONLY);
-  FileStatus status;
-  ASSERT_TRUE(platform_.GetFileStatus(u"D:\\A.TXT", status));
-  EXPECT_TRUE(status.attributes & kAttributeReadOnly);
-  EXPECT_EQ(ErrorOf([&] { platform_.DeleteFile(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
-  EXPECT_EQ(ErrorOf([&] { platform_.OpenWrite(u"D:\\A.TXT"); }), ErrorNumber::kPermissionDenied);
-  EXPECT_EQ(ErrorOf([&] { platform_.CopyFile(u"D:\\B.TXT", u"D:\\A.TXT"); }),
-            ErrorNumber::kPermissionDenied);
-  EXPECT_EQ(Contents(u"D:\\A.TXT"), "ancien");
-  EXPECT_THAT(FindAll(u"D:\\*"), UnorderedElementsAre(u"A.TXT", u"B.TXT"));
-}
+// --- Files in use --------------------------------------------------------------------------------
 
 TEST_F(Win32PlatformTest, AFileInUseIsRefused) {
   disc_.File("A.TXT", "ancien");

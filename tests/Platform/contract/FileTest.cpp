@@ -261,6 +261,24 @@ TEST_F(FileContract, WhatCannotBeDeletedRaises) {
   EXPECT_TRUE(Exists(u"D:\\JEUX"));
 }
 
+// --- Read-only files --------------------------------------------------------------------------
+
+TEST_F(FileContract, AReadOnlyFileIsNeitherWrittenReplacedNorDeleted) {
+  disc_.File("A.TXT", "ancien");
+  disc_.File("B.TXT", "nouveau");
+  using std::filesystem::perms;
+  std::filesystem::permissions(disc_.HostPath("A.TXT"),
+                               perms::owner_write | perms::group_write | perms::others_write,
+                               std::filesystem::perm_options::remove);
+  EXPECT_TRUE(Status(u"D:\\A.TXT").attributes & kAttributeReadOnly);
+  EXPECT_FALSE(Status(u"D:\\B.TXT").attributes & kAttributeReadOnly);
+  EXPECT_EQ(DeleteError(u"D:\\A.TXT"), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(WriteError(u"D:\\A.TXT"), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(CopyError(u"D:\\B.TXT", u"D:\\A.TXT"), ErrorNumber::kPermissionDenied);
+  EXPECT_EQ(Contents(u"D:\\A.TXT"), "ancien");
+  EXPECT_THAT(FindAll(u"D:\\*"), UnorderedElementsAre(u"A.TXT", u"B.TXT"));
+}
+
 // --- Names of any length ----------------------------------------------------------------------
 
 TEST_F(FileContract, NamesLongerThan260CharactersWork) {
