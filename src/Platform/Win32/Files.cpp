@@ -14,13 +14,14 @@ namespace {
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr std::size_t kLargestPiece = 1 << 24;  // of one call of the system
 
-bool HasAttribute(const Text& verbatim, DWORD attribute) {
+// 0 where there is no such file.
+DWORD AttributesOf(const Text& verbatim) {
   const DWORD attributes = GetFileAttributesW(Wide(verbatim));
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute);
+  return attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes;
 }
 
 bool IsDirectory(const Text& verbatim) {
-  return HasAttribute(verbatim, FILE_ATTRIBUTE_DIRECTORY);
+  return AttributesOf(verbatim) & FILE_ATTRIBUTE_DIRECTORY;
 }
 
 bool IsDirectoryMissing(const Text& verbatim) {
@@ -30,22 +31,19 @@ bool IsDirectoryMissing(const Text& verbatim) {
 // The system refuses a directory as it refuses a file without permission, and does not always tell
 // a missing file from a missing directory or drive; the program does.
 [[noreturn]] void RaiseFor(const Text& verbatim, DWORD code) {
-  ErrorNumber number = ErrorNumberOf(code);
-  if (number == ErrorNumber::kPermissionDenied && IsDirectory(verbatim)) {
-    number = ErrorNumber::kPathFileAccess;
-  } else if (number == ErrorNumber::kFileNotFound && IsDirectoryMissing(verbatim)) {
-    number = ErrorNumber::kPathNotFound;
+  if (IsDirectory(verbatim)) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  const ErrorNumber number = ErrorNumberOf(code);
+  if (number == ErrorNumber::kFileNotFound && IsDirectoryMissing(verbatim)) {
+    throw RuntimeError(ErrorNumber::kPathNotFound);
   }
   throw RuntimeError(number);
 }
 
-// The name that the system opens; raises what an unusable one raises.
+// The name that the system opens; raises what no name and a device's name raise.
 Text Openable(const Text& name) {
   if (name.empty()) throw RuntimeError(ErrorNumber::kFileNotFound);
   Text verbatim = VerbatimName(name);
-  if (verbatim.empty() || IsDirectory(verbatim)) {
-    throw RuntimeError(ErrorNumber::kPathFileAccess);
-  }
+  if (verbatim.empty()) throw RuntimeError(ErrorNumber::kPathFileAccess);
   return verbatim;
 }
 
@@ -53,9 +51,9 @@ Text Openable(const Text& name) {
 // read-only attribute by itself.
 Text Writable(const Text& name) {
   Text verbatim = Openable(name);
-  if (HasAttribute(verbatim, FILE_ATTRIBUTE_READONLY)) {
-    throw RuntimeError(ErrorNumber::kPermissionDenied);
-  }
+  const DWORD attributes = AttributesOf(verbatim);
+  if (attributes & FILE_ATTRIBUTE_DIRECTORY) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  if (attributes & FILE_ATTRIBUTE_READONLY) throw RuntimeError(ErrorNumber::kPermissionDenied);
   return verbatim;
 }
 
