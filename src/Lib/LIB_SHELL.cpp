@@ -117,10 +117,12 @@ int iShellOuvrir(const Text& sDocument) {
 void OuvrirDocument(const Text& sDocument, const Text& sProgramme) {
   BusyOn();
   const Text sAdresse = sDocument.empty() ? Text(kDefaultAddress) : sDocument;
-  if (!sProgramme.empty()) {
-    iExecuteShellWin(sProgramme + u" " + sAdresse, kNormalWindow);
-  } else if (!sAdresse.empty()) {
-    iShellOuvrir(sAdresse);
+  if (!sAdresse.empty()) {
+    if (sProgramme.empty()) {
+      iShellOuvrir(sAdresse);
+    } else {
+      iExecuteShellWin(sProgramme + u" " + sAdresse, kNormalWindow);
+    }
   }
   BusyOff();
 }

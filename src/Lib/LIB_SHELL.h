@@ -23,7 +23,8 @@ int iLanceParAssociation(const Text& sFichier, bool bMessage);
 // Hands a document or address to the system. -1 on success, else 0, with an error box.
 int iShellOuvrir(const Text& sDocument);
 
-// Opens a document or address by `sProgramme`, or by the system where that is empty.
+// Opens a document or address by `sProgramme`, or by the system where that is empty. Without a
+// document nothing happens.
 void OuvrirDocument(const Text& sDocument, const Text& sProgramme = {});
 
 // Full command of the program associated with a file; empty if there is none.

@@ -11,7 +11,8 @@ extern const FormSpec kMainFormSpec;
 // Smallest outer size, in twips.
 inline constexpr Extent kMainFormMinimum = {11025, 7830};
 
-// Captions of the tabs, with a picture each.
+// Captions of the tabs, and the names of the pictures beside them.
 inline constexpr const char16_t* kMainFormTabs[] = {u"Setup/Install", u"Exe", u"Archive ZIP"};
+inline constexpr const char16_t* kMainFormTabPictures[] = {u"TabSetup", u"TabExe", u"TabZip"};
 
 }  // namespace trovex

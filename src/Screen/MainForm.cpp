@@ -48,6 +48,12 @@ MainForm::~MainForm() {
 void MainForm::DressControls() {
   ListFichier.SetSorted(true);
   ZoneDesTableaux.SetCaptions({std::begin(kMainFormTabs), std::end(kMainFormTabs)});
+  ZoneDesTableaux.SetPictures({std::begin(kMainFormTabPictures), std::end(kMainFormTabPictures)});
+  // A button's picture bears the button's name.
+  for (Button* button : {&Explorer, &ConvertHTML, &Exporter, &Imprimer, &CommandOption, &Apropos,
+                         &Quitter, &PrintTexte}) {
+    button->SetPicture(button->Name());
+  }
   ImageAppli.SetPicture({Picture::Source::kResource, u"Trovex"});
   for (int i = 0; i < kButtonCount; ++i) {
     ShapeOmbre(i).SetBackColor(Rgb(128, 128, 128));

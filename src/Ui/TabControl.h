@@ -13,6 +13,9 @@ class TabControl : public Control {
 
   const std::vector<Text>& Captions() const { return captions_; }
   void SetCaptions(std::vector<Text> captions) { captions_ = std::move(captions); }
+  // Names of the pictures beside the captions, in the order of the tabs; none where it is empty.
+  const std::vector<Text>& Pictures() const { return pictures_; }
+  void SetPictures(std::vector<Text> names) { pictures_ = std::move(names); }
 
   int Tab() const { return tab_; }
   // Another tab raises the click with the former tab's number, the one already shown raises
@@ -23,6 +26,7 @@ class TabControl : public Control {
 
  private:
   std::vector<Text> captions_;
+  std::vector<Text> pictures_;
   int tab_ = 0;
 };
 
