@@ -125,9 +125,16 @@ OpenFile& FileOf(int number) {
   return found->second;
 }
 
+bool IsOpen(const Text& name) {
+  return std::any_of(Files().begin(), Files().end(),
+                     [&](const auto& entry) { return EqualsNoCase(entry.second.Name(), name); });
+}
+
 void Open(int number, const Text& name, OpenFile::Mode mode) {
   if (number < 1 || number > kLastNumber) throw RuntimeError(ErrorNumber::kBadFileNumber);
-  if (Files().contains(number) || IsOpenForOutput(name)) {
+  // What is being read cannot be emptied under the reader; several may read.
+  const bool busy = mode == OpenFile::Mode::kOutput ? IsOpen(name) : IsOpenForOutput(name);
+  if (Files().contains(number) || busy) {
     throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
   }
   Files().emplace(std::piecewise_construct, std::forward_as_tuple(number),

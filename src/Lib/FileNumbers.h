@@ -11,8 +11,9 @@ namespace trovex {
 // The lowest number that no open file bears, from 1; raises kTooManyFiles past 511.
 int FreeFile();
 
-// Open a file under a free number for reading, or for writing from empty. They raise what the
-// platform raises.
+// Open a file under a free number for reading, or for writing from empty. Only readers share a
+// file: anything else raises kFileAlreadyOpen, as a number in use does. They raise what the
+// platform raises, and kBadFileNumber for a number that cannot be.
 void OpenInput(int number, const Text& name);
 void OpenOutput(int number, const Text& name);
 

@@ -12,7 +12,9 @@ StatusBar* panel_aide = nullptr;
 
 }  // namespace
 
-void RegisterPanelAide(StatusBar* pPanelAide) { panel_aide = pPanelAide; }
+void RegisterPanelAide(StatusBar* pPanelAide) {
+  panel_aide = pPanelAide;
+}
 
 void MainMsg(TextView sTexte) {
   if (panel_aide == nullptr) return;

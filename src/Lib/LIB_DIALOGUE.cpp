@@ -9,11 +9,14 @@ namespace {
 
 const Text kBreak(kCrLf);
 
+constexpr std::size_t kSystemBuffer = 500;  // characters, the terminator included
+
 // What the pending run-time error adds to a message; empty if there is none.
 Text DetailsOf(const PendingError& error, const Text& sSysteme) {
   if (error.number == 0) return {};
   Text sDetails = kBreak + kBreak + u"Error #" + Decimal(error.number);
-  if (error.line != 0) sDetails += Text(u" - ") + u"Line" + u" " + u"n°" + u" " + Decimal(error.line);
+  if (error.line != 0)
+    sDetails += Text(u" - ") + u"Line" + u" " + u"n°" + u" " + Decimal(error.line);
   sDetails += u" by " + error.source;
   if (!error.description.empty()) sDetails += kBreak + error.description;
   if (!sSysteme.empty()) sDetails += kBreak + kBreak + sSysteme;
@@ -44,7 +47,10 @@ void MessageErreur(TextView sTexte) {
 
 Text sMessageSysteme() {
   const std::uint32_t code = CurrentPlatform().GetLastError();
-  return code == 0 ? Text() : Trim(CurrentPlatform().FormatMessage(code));
+  if (code == 0) return {};
+  const Text sTexte = CurrentPlatform().FormatMessage(code);
+  // A text that does not fit is not formatted at all.
+  return sTexte.size() < kSystemBuffer ? Trim(sTexte) : Text();
 }
 
 BoxAnswer iQuestion(TextView sTexte, TextView sTitre) {

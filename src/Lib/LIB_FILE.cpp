@@ -61,11 +61,21 @@ Text sEnleveBackslash(TextView sChemin) {
   return Text(sChemin);
 }
 
-Text sRepertoireAppli() { return sAjouteBackslash(CurrentPlatform().GetProgramDirectory()); }
-Text sNomSeul(TextView sChemin) { return sDroiteDernier(sChemin, u"\\"); }
-Text sRepertoireSeul(TextView sChemin) { return sGaucheDernier(sChemin, u"\\"); }
-Text sRepertoireWindows() { return DirectoryOf(&Platform::GetWindowsDirectory); }
-Text sRepertoireSysteme() { return DirectoryOf(&Platform::GetSystemDirectory); }
+Text sRepertoireAppli() {
+  return sAjouteBackslash(CurrentPlatform().GetProgramDirectory());
+}
+Text sNomSeul(TextView sChemin) {
+  return sDroiteDernier(sChemin, u"\\");
+}
+Text sRepertoireSeul(TextView sChemin) {
+  return sGaucheDernier(sChemin, u"\\");
+}
+Text sRepertoireWindows() {
+  return DirectoryOf(&Platform::GetWindowsDirectory);
+}
+Text sRepertoireSysteme() {
+  return DirectoryOf(&Platform::GetSystemDirectory);
+}
 
 bool bFichierExiste(TextView sNom) {
   const Text sCherche = sEnleveBackslash(Trimmed(sNom));
@@ -125,9 +135,8 @@ int iOuvreEcriture(const Text& sNom) {
 bool bCopieFichier(const Text& sSource, const Text& sDestination, bool bConfirme) {
   if (sSource.empty() || sDestination.empty()) return false;
   if (bConfirme && bFichierExiste(sDestination)) {
-    const BoxAnswer answer =
-        iQuestion(ResString(StringId::kDestinationExiste) + sDestination + Text(kCrLf) +
-                  ResString(StringId::kSouhaitezRemplacer));
+    const BoxAnswer answer = iQuestion(ResString(StringId::kDestinationExiste) + sDestination +
+                                       Text(kCrLf) + ResString(StringId::kSouhaitezRemplacer));
     if (answer != BoxAnswer::kYes) return false;
   }
   if (!bFichierExiste(sSource)) {

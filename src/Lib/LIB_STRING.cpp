@@ -47,9 +47,10 @@ Text sTronqueAuNul(TextView sTexte) {
 }
 
 Text sChangeCaractere(TextView sTexte, TextView sCherche, TextView sRemplace) {
-  if (sCherche.empty() || Trimmed(sTexte).empty()) return Text(sTexte);
   Text sResultat;
   try {
+    CheckLength(sCherche);
+    if (sCherche.empty() || Trimmed(sTexte).empty()) return Text(sTexte);
     TextView rest = sTexte;
     while (const int p = iPosition(rest, sCherche)) {
       sResultat.append(rest, 0, static_cast<std::size_t>(p - 1));

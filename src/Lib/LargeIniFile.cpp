@@ -8,7 +8,9 @@
 namespace trovex {
 namespace {
 
-Text HeaderOf(const Text& sSection) { return u"[" + Trim(sSection) + u"]"; }
+Text HeaderOf(const Text& sSection) {
+  return u"[" + Trim(sSection) + u"]";
+}
 
 long long LengthOf(const Text& sFichier) {
   FileStatus status;
@@ -34,7 +36,7 @@ Text ReadValue(int hFichier, const Text& sSection, const Text& sCle, const Text&
     const Text sLigne = LineInput(hFichier);
     if (!bDansSection && Trimmed(sLigne) == sEntete) {
       bDansSection = true;
-    } else if (bDansSection && Trim(sGaucheDe(sLigne, u"=")) == sCle) {
+    } else if (Trim(sGaucheDe(sLigne, u"=")) == sCle && bDansSection) {
       return sDroiteDe(sLigne, u"=");
     }
   }
@@ -128,7 +130,10 @@ void EcritIniGrosFichier(const Text& sSection, const Text& sCle, const Text& sVa
   const int hLecture = hEntree == -1 ? iOuvreLecture(sFichier) : hEntree;
   if (hLecture == -1) return;
   const int hEcriture = hSortie == -1 ? iOuvreEcriture(sTemporaire) : hSortie;
-  if (hEcriture == -1) return CloseFile(hLecture);
+  if (hEcriture == -1) {
+    if (hEntree == -1) CloseFile(hLecture);
+    return;
+  }
   const auto close_own = [&](auto close) {
     if (hEntree == -1) close(hLecture);
     if (hSortie == -1) close(hEcriture);

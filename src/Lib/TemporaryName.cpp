@@ -44,6 +44,8 @@ Text sNomTemporaire(TextView sPrefixe) {
   return sNom;
 }
 
-Text sNomTempAppli() { return sNomTemporaire(kUsualPrefix); }
+Text sNomTempAppli() {
+  return sNomTemporaire(kUsualPrefix);
+}
 
 }  // namespace trovex
