@@ -97,6 +97,12 @@ void Form::ShowModal() {
 
 void Form::Hide() { SetVisible(false); }
 
+void Form::Close() {
+  if (on_close) return on_close();
+  if (on_key_press) return on_key_press(kKeyEscape);
+  Unload();
+}
+
 void Form::Unload() {
   if (!Loaded()) return;
   if (!unloading_) {

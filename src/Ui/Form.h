@@ -50,6 +50,10 @@ class Form : public Control {
   void ShowModal();
   void Hide();
   void Unload();
+  // What the window's close box does: the main window is unloaded, a dialog's own way out is taken
+  // where it has one.
+  void Close();
+  Event on_close;
   // The form takes the foreground.
   void Activate() { Raise(on_activate); }
 

@@ -1,0 +1,213 @@
+// The windows of the control kinds, one source file a kind.
+#pragma once
+
+#include "Ui/FileListBox.h"
+#include "Ui/Grid.h"
+#include "Ui/Label.h"
+#include "Ui/ListBox.h"
+#include "Ui/Picture.h"
+#include "Ui/StatusBar.h"
+#include "Ui/TabControl.h"
+#include "Ui/TextBox.h"
+#include "Ui/Win32/NativeControl.h"
+
+// Behind Windows.h, whose types it needs.
+#include <commctrl.h>
+
+namespace trovex::win32 {
+
+// Three-dimensional, picture over caption, a dark frame around the one with the focus.
+class ButtonWindow : public NativeControl {
+ public:
+  ButtonWindow(Button& model, FormWindow& form);
+  void OnCommand(WORD code) override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+  bool OnKey(WPARAM key) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+  Font ModelFont() const override { return button_.GetFont(); }
+
+ private:
+  void DrawFace(HDC dc, const RECT& area, bool disabled);
+  void DrawPicture(HDC dc, int left, int top, int size, bool disabled);
+  void DrawCaption(HDC dc, RECT area, bool disabled);
+  int CaptionHeight(HDC dc);
+
+  Button& button_;
+};
+
+// Label and panel.
+class LabelWindow : public NativeControl {
+ public:
+  LabelWindow(Captioned& model, FormWindow& form);
+  bool TakesFocus() const override { return false; }
+  HBRUSH OnColour(HDC dc) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+  Font ModelFont() const override { return label_.GetFont(); }
+
+ private:
+  Captioned& label_;
+};
+
+class OptionWindow : public NativeControl {
+ public:
+  OptionWindow(OptionButton& model, FormWindow& form);
+  void OnCommand(WORD code) override;
+  HBRUSH OnColour(HDC dc) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  OptionButton& option_;
+};
+
+// The text is shown when the program comes to rest: what grows line by line is shown once.
+class TextBoxWindow : public NativeControl {
+ public:
+  TextBoxWindow(TextBox& model, FormWindow& form);
+  ~TextBoxWindow() override;
+  void Flush() override;
+  void OnCommand(WORD code) override;
+  HBRUSH OnColour(HDC dc) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+  Font ModelFont() const override { return box_.GetFont(); }
+
+ private:
+  TextBox& box_;
+  HBRUSH background_ = nullptr;
+  bool stale_ = true;
+};
+
+class ListBoxWindow : public NativeControl {
+ public:
+  ListBoxWindow(ListBox& model, FormWindow& form);
+  void Flush() override;
+  void OnCommand(WORD code) override;
+  bool OnKey(WPARAM key) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  ListBox& list_;
+  bool stale_ = true;
+};
+
+// The path's parents, the path and its children, with folder pictures.
+class DirListWindow : public NativeControl {
+ public:
+  DirListWindow(DirListBox& model, FormWindow& form);
+  void OnCommand(WORD code) override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+  void OnMeasure(MEASUREITEMSTRUCT& item) override;
+  bool OnKey(WPARAM key) override;
+  void Rescale() override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  int ModelIndex(int item) const { return item - 1 - list_.Depth(); }
+  int ItemOf(int model_index) const { return model_index + 1 + list_.Depth(); }
+  int ItemHeight() const;
+
+  DirListBox& list_;
+};
+
+// A drop-down list with drive pictures and volume labels.
+class DriveListWindow : public NativeControl {
+ public:
+  DriveListWindow(DriveListBox& model, FormWindow& form);
+  void OnCommand(WORD code) override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+  void OnMeasure(MEASUREITEMSTRUCT& item) override;
+  void Rescale() override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+  RECT Rectangle() const override;
+
+ private:
+  DriveListBox& list_;
+};
+
+// A picture at its own size in the corner.
+class PictureWindow : public NativeControl {
+ public:
+  PictureWindow(PictureBox& model, FormWindow& form);
+  bool TakesFocus() const override { return false; }
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  PictureBox& box_;
+  OwnedIcon icon_;
+};
+
+class TabWindow : public NativeControl {
+ public:
+  TabWindow(TabControl& model, FormWindow& form);
+  ~TabWindow() override;
+  bool OnNotify(NMHDR& header, LRESULT& result) override;
+  void Rescale() override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  void LoadPictures();
+
+  TabControl& tabs_;
+  HIMAGELIST pictures_ = nullptr;
+};
+
+class StatusBarWindow : public NativeControl {
+ public:
+  StatusBarWindow(StatusBar& model, FormWindow& form);
+  bool TakesFocus() const override { return false; }
+  void Flush() override;
+  void Rescale() override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  StatusBar& bar_;
+};
+
+// A virtual list view: the rows stay in the model, a row is asked for when it is drawn.
+class GridWindow : public NativeControl {
+ public:
+  GridWindow(Grid& model, FormWindow& form);
+  void Flush() override;
+  bool OnNotify(NMHDR& header, LRESULT& result) override;
+  void Rescale() override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+  Font ModelFont() const override { return grid_.GetFont(); }
+
+ private:
+  void MakeColumns();
+  void ShowColumns();
+  void ShowSelection();
+  void FillCell(NMLVDISPINFOW& info);
+  void OnSelected(int item);
+  void OnClicked(int item);
+  void OnActivated(int item);
+  void Choose(int item);
+
+  Grid& grid_;
+  bool stale_ = true;
+  int chosen_by_press_ = -1;
+};
+
+}  // namespace trovex::win32

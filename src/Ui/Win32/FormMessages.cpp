@@ -1,0 +1,140 @@
+// The one window procedure: it routes.
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "Ui/Win32/FormWindow.h"
+#include "Ui/Win32/Win32View.h"
+
+namespace trovex::win32 {
+namespace {
+
+constexpr UINT kFlushMessage = WM_APP + 1;
+constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, from Windows 8.1 on
+
+}  // namespace
+
+LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
+  if (message == WM_NCCREATE) {
+    const auto* create = reinterpret_cast<CREATESTRUCTW*>(l);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
+  }
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (form == nullptr || form->handle_ == nullptr) return DefWindowProcW(window, message, w, l);
+  if (message == WM_NCDESTROY) {
+    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+    form->handle_ = nullptr;
+    return DefWindowProcW(window, message, w, l);
+  }
+  return form->OnMessage(message, w, l);
+}
+
+LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
+  LRESULT result = 0;
+  switch (message) {
+    case kFlushMessage:
+      flush_requested_ = false;
+      Flush();
+      return 0;
+    case WM_CLOSE:
+      Run([this] { form_.Close(); });
+      return 0;
+    case WM_SIZE:
+      OnSize(w);
+      return 0;
+    case WM_MOVE:
+      OnMove();
+      return 0;
+    case kDpiChanged:
+      OnDpiChanged(HIWORD(w), *reinterpret_cast<const RECT*>(l));
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+      OnPaint();
+      return 0;
+    case WM_MOUSEMOVE:
+      Run(form_.on_mouse_move);
+      return 0;
+    case WM_SETCURSOR:
+      if (view_.GetPointer() != Pointer::kHourglass) break;
+      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+      return TRUE;
+    default:
+      if (Route(message, w, l, result)) return result;
+  }
+  return DefWindowProcW(handle_, message, w, l);
+}
+
+bool FormWindow::Route(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
+  NativeControl* control = nullptr;
+  switch (message) {
+    case WM_COMMAND:
+      control = Of(reinterpret_cast<HWND>(l));
+      if (control != nullptr) control->OnCommand(HIWORD(w));
+      return control != nullptr;
+    case WM_NOTIFY: {
+      auto& header = *reinterpret_cast<NMHDR*>(l);
+      control = Of(header.hwndFrom);
+      return control != nullptr && control->OnNotify(header, result);
+    }
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
+      control = Of(item.hwndItem);
+      if (control != nullptr) control->OnDraw(item);
+      result = TRUE;
+      return control != nullptr;
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORBTN:
+      control = Of(reinterpret_cast<HWND>(l));
+      result = control == nullptr
+                   ? 0
+                   : reinterpret_cast<LRESULT>(control->OnColour(reinterpret_cast<HDC>(w)));
+      return result != 0;
+    default:
+      return false;
+  }
+}
+
+bool FormWindow::OnKeyMessage(const MSG& message) {
+  NativeControl* focused = Of(message.hwnd);
+  if (message.message == WM_KEYUP) Flush();  // the panels of the keyboard
+  if (message.message != WM_KEYDOWN) return false;
+  if (message.wParam == VK_TAB) {
+    MoveFocus(GetKeyState(VK_SHIFT) < 0);
+    return true;
+  }
+  if (focused != nullptr && focused->OnKey(message.wParam)) return true;
+  const int key = static_cast<int>(message.wParam);
+  if (key == kKeyEscape && form_.on_key_press) {
+    Run([&] { form_.on_key_press(key); });
+    return true;
+  }
+  if (key == kKeyF1 && form_.on_key_down) {
+    Run([&] { form_.on_key_down(key); });
+    return true;
+  }
+  return false;
+}
+
+// The next control in the order of the Tab key that a user can reach.
+void FormWindow::MoveFocus(bool backwards) {
+  std::vector<NativeControl*> stops;
+  for (const auto& control : controls_) {
+    const HWND window = control->Handle();
+    const bool stop = control->TakesFocus() && IsWindowVisible(window) && IsWindowEnabled(window);
+    if (stop) stops.push_back(control.get());
+  }
+  if (stops.empty()) return;
+  std::stable_sort(stops.begin(), stops.end(), [](const auto* a, const auto* b) {
+    return a->Model().TabOrder() < b->Model().TabOrder();
+  });
+  if (backwards) std::reverse(stops.begin(), stops.end());
+  const auto at = std::find(stops.begin(), stops.end(), Of(GetFocus()));
+  const bool last = at == stops.end() || at + 1 == stops.end();
+  ::SetFocus((last ? stops.front() : *(at + 1))->Handle());
+}
+
+}  // namespace trovex::win32

@@ -1,0 +1,231 @@
+#include "Ui/Win32/FormWindow.h"
+
+#include <algorithm>
+
+#include "Platform/Win32/Names.h"
+#include "Ui/Win32/Win32View.h"
+
+namespace trovex::win32 {
+namespace {
+
+constexpr wchar_t kClass[] = L"TrovexForm";
+constexpr UINT kFlushMessage = WM_APP + 1;
+
+DWORD StyleOf(const Form& form) {
+  const DWORD fixed = WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+  return form.Sizable() ? fixed | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX : fixed;
+}
+
+DWORD ExtendedStyleOf(const Form& form) {
+  return form.Sizable() ? WS_EX_APPWINDOW : WS_EX_DLGMODALFRAME;
+}
+
+void RegisterOnce(WNDPROC procedure) {
+  static ATOM registered = 0;
+  if (registered != 0) return;
+  WNDCLASSEXW window_class = {};
+  window_class.cbSize = sizeof window_class;
+  window_class.lpfnWndProc = procedure;
+  window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.hIcon = LoadIconW(window_class.hInstance, L"Trovex");
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.lpszClassName = kClass;
+  registered = RegisterClassExW(&window_class);
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, Win32View& view) : form_(form), view_(view) {
+  RegisterOnce(Procedure);
+  background_ = CreateSolidBrush(NativeColour(form.BackColor()));
+  CreateWindowAndControls();
+}
+
+FormWindow::~FormWindow() {
+  controls_.clear();
+  if (handle_ != nullptr) DestroyWindow(handle_);
+  DeleteObject(background_);
+}
+
+void FormWindow::CreateWindowAndControls() {
+  scale_.dpi = SystemDpi();
+  handle_ = CreateWindowExW(ExtendedStyleOf(form_), kClass, Wide(form_.Caption()), StyleOf(form_),
+                            CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr,
+                            GetModuleHandleW(nullptr), this);
+  scale_.dpi = DpiOf(handle_);
+  PlaceWindow();
+  for (const auto& control : form_.Controls()) {
+    auto window = CreateNativeControl(*control, *this);
+    if (!window) continue;
+    by_model_[control.get()] = window.get();
+    controls_.push_back(std::move(window));
+  }
+}
+
+Shared& FormWindow::GetShared() const {
+  return view_.GetShared();
+}
+
+NativeControl* FormWindow::Of(const Control& control) const {
+  const auto found = by_model_.find(&control);
+  return found == by_model_.end() ? nullptr : found->second;
+}
+
+NativeControl* FormWindow::Of(HWND window) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
+    return control->Handle() == window || IsChild(control->Handle(), window);
+  });
+  return found == controls_.end() ? nullptr : found->get();
+}
+
+void FormWindow::Changed(Control& control, Property property) {
+  if (&control == &form_) return MirrorForm(property);
+  if (NativeControl* window = Of(control)) {
+    window->Mirror(property);
+  } else {
+    InvalidateRect(handle_, nullptr, TRUE);  // the form draws it
+  }
+}
+
+void FormWindow::MirrorForm(Property property) {
+  switch (property) {
+    case Property::kText:
+      SetWindowTextW(handle_, Wide(form_.Caption()));
+      break;
+    case Property::kPlace:
+      PlaceWindow();
+      break;
+    case Property::kVisible:
+      Flush();
+      ShowWindow(handle_, form_.Visible() ? SW_SHOW : SW_HIDE);
+      if (form_.Visible()) UpdateWindow(handle_);
+      break;
+    default:
+      InvalidateRect(handle_, nullptr, TRUE);
+  }
+}
+
+// The model's outer size stands for its client area; the system's frame comes on top of that.
+RECT FormWindow::OuterRectangle() const {
+  RECT outer = {0, 0, scale_.Pixels(form_.ScaleWidth()), scale_.Pixels(form_.ScaleHeight())};
+  AdjustWindowRectEx(&outer, StyleOf(form_), FALSE, ExtendedStyleOf(form_));
+  OffsetRect(&outer, scale_.Pixels(form_.Left()) - outer.left,
+             scale_.Pixels(form_.Top()) - outer.top);
+  return outer;
+}
+
+void FormWindow::PlaceWindow() {
+  if (placing_ || IsIconic(handle_)) return;
+  placing_ = true;
+  const RECT at = OuterRectangle();
+  SetWindowPos(handle_, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  placing_ = false;
+}
+
+void FormWindow::OnSize(WPARAM kind) {
+  form_.SetMinimised(kind == SIZE_MINIMIZED);
+  if (kind == SIZE_MINIMIZED) return;
+  if (!placing_) {
+    RECT client;
+    GetClientRect(handle_, &client);
+    const double width = scale_.Twips(client.right) + form_.Width() - form_.ScaleWidth();
+    const double height = scale_.Twips(client.bottom) + form_.Height() - form_.ScaleHeight();
+    Run([&] { form_.Resize(width, height); });
+  }
+  InvalidateRect(handle_, nullptr, TRUE);
+}
+
+void FormWindow::OnMove() {
+  if (placing_ || IsIconic(handle_)) return;
+  RECT at;
+  GetWindowRect(handle_, &at);
+  placing_ = true;
+  form_.SetLeft(scale_.Twips(at.left));
+  form_.SetTop(scale_.Twips(at.top));
+  placing_ = false;
+}
+
+void FormWindow::OnDpiChanged(int dpi, const RECT& proposed) {
+  scale_.dpi = dpi;
+  placing_ = true;
+  form_.SetLeft(scale_.Twips(proposed.left));
+  form_.SetTop(scale_.Twips(proposed.top));
+  placing_ = false;
+  PlaceWindow();
+  for (const auto& control : controls_) control->Rescale();
+  Flush();
+  InvalidateRect(handle_, nullptr, TRUE);
+}
+
+void FormWindow::Repaint(Control& control) {
+  Flush();
+  if (&control == &form_) {
+    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+  } else if (NativeControl* window = Of(control)) {
+    UpdateWindow(window->Handle());
+  }
+}
+
+void FormWindow::RequestFlush() {
+  if (flush_requested_) return;
+  flush_requested_ = PostMessageW(handle_, kFlushMessage, 0, 0) != FALSE;
+}
+
+void FormWindow::Flush() {
+  for (const auto& control : controls_) control->Flush();
+}
+
+void FormWindow::Draw(const Stroke& stroke) {
+  if (painting_ == nullptr) {
+    InvalidateRect(handle_, nullptr, FALSE);
+    return;
+  }
+  const HPEN pen = CreatePen(PS_SOLID, 1, NativeColour(stroke.colour));
+  const HGDIOBJ before = SelectObject(painting_, pen);
+  MoveToEx(painting_, scale_.Pixels(stroke.x1), scale_.Pixels(stroke.y1), nullptr);
+  LineTo(painting_, scale_.Pixels(stroke.x2), scale_.Pixels(stroke.y2));
+  SelectObject(painting_, before);
+  DeleteObject(pen);
+}
+
+void FormWindow::OnPaint() {
+  PAINTSTRUCT paint;
+  painting_ = BeginPaint(handle_, &paint);
+  RECT client;
+  GetClientRect(handle_, &client);
+  FillRect(painting_, &client, background_);
+  PaintControls(painting_);
+  Run(form_.on_paint);
+  EndPaint(handle_, &paint);
+  painting_ = nullptr;
+}
+
+// Shadows and pictures that have no window of their own.
+void FormWindow::PaintControls(HDC dc) {
+  for (const auto& control : form_.Controls()) {
+    if (!control->Visible()) continue;
+    const RECT at = scale_.Rect(control->GetPlace());
+    if (control->Kind() == ControlKind::kShape) {
+      const HBRUSH brush = CreateSolidBrush(NativeColour(control->BackColor()));
+      FillRect(dc, &at, brush);
+      DeleteObject(brush);
+    } else if (control->Kind() == ControlKind::kImage) {
+      const int size = at.bottom - at.top;
+      const OwnedIcon icon = LoadPicture(static_cast<Image&>(*control).GetPicture(), size);
+      if (icon.Get() != nullptr) {
+        DrawIconEx(dc, at.left, at.top, icon.Get(), size, size, 0, nullptr, DI_NORMAL);
+      }
+    }
+  }
+}
+
+void FormWindow::Run(const Event& reaction) {
+  try {
+    Raise(reaction);
+  } catch (const RuntimeError&) {
+    view_.Fail(std::current_exception());
+  }
+}
+
+}  // namespace trovex::win32

@@ -1,0 +1,148 @@
+#include "Platform/Win32/Names.h"
+#include "Ui/Win32/ControlWindows.h"
+#include "Ui/Win32/FormWindow.h"
+
+namespace trovex::win32 {
+namespace {
+
+int FormatOf(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::kLeft:
+      break;
+    case Alignment::kRight:
+      return LVCFMT_RIGHT;
+    case Alignment::kCentre:
+      return LVCFMT_CENTER;
+  }
+  return LVCFMT_LEFT;
+}
+
+}  // namespace
+
+GridWindow::GridWindow(Grid& model, FormWindow& form) : NativeControl(model, form), grid_(model) {
+  Create(WC_LISTVIEWW,
+         LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER |
+             WS_TABSTOP,
+         WS_EX_CLIENTEDGE);
+  Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0,
+       LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
+  MakeColumns();
+  Flush();
+}
+
+void GridWindow::MakeColumns() {
+  // The first column of a list view is always left-aligned, unless it once was the second.
+  LVCOLUMNW column = {};
+  Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+  for (int col = 0; col < grid_.Cols(); ++col) {
+    column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
+    column.fmt = FormatOf(grid_.ColAlignment(col));
+    column.cx = GetScale().Pixels(grid_.ColWidth(col));
+    column.pszText = const_cast<wchar_t*>(Wide(grid_.Cell(0, col)));
+    column.iSubItem = col;
+    Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(col + 1), reinterpret_cast<LPARAM>(&column));
+  }
+  Send(LVM_DELETECOLUMN, 0);
+}
+
+void GridWindow::ShowColumns() {
+  for (int col = 0; col < grid_.Cols(); ++col) {
+    LVCOLUMNW column = {};
+    column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
+    column.fmt = FormatOf(grid_.ColAlignment(col));
+    column.cx = GetScale().Pixels(grid_.ColWidth(col));
+    column.pszText = const_cast<wchar_t*>(Wide(grid_.Cell(0, col)));
+    Send(LVM_SETCOLUMNW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&column));
+  }
+}
+
+void GridWindow::MirrorProperty(Property) {
+  stale_ = true;
+  Owner().RequestFlush();
+}
+
+void GridWindow::Rescale() {
+  NativeControl::Rescale();
+  stale_ = true;
+  Owner().RequestFlush();
+}
+
+void GridWindow::Flush() {
+  if (!stale_) return;
+  stale_ = false;
+  ShowColumns();
+  Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(grid_.Rows() - 1), LVSICF_NOSCROLL);
+  ShowSelection();
+  InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+void GridWindow::ShowSelection() {
+  LVITEMW state = {};
+  state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  const auto now = static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+  if (now == grid_.Row() - 1) return;
+  state.state = grid_.Row() > 0 ? state.stateMask : 0;
+  Send(LVM_SETITEMSTATE, static_cast<WPARAM>(grid_.Row() - 1), reinterpret_cast<LPARAM>(&state));
+  if (grid_.Row() > 0) Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(grid_.Row() - 1), FALSE);
+}
+
+void GridWindow::FillCell(NMLVDISPINFOW& info) {
+  LVITEMW& item = info.item;
+  const int row = item.iItem + 1;
+  const bool exists = row < grid_.Rows() && item.iSubItem < grid_.Cols();
+  if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
+  const Text cell = exists ? grid_.Cell(row, item.iSubItem) : Text();
+  const auto length = std::min(cell.size(), static_cast<std::size_t>(item.cchTextMax - 1));
+  std::copy_n(Wide(cell), length, item.pszText);
+  item.pszText[length] = L'\0';
+}
+
+// What the user does comes while nothing is stale: otherwise the window is only being filled.
+void GridWindow::Choose(int item) {
+  if (Mirroring() || stale_ || item < 0 || item + 1 >= grid_.Rows()) return;
+  Owner().Run([this, item] {
+    grid_.SetRow(item + 1);
+    Raise(grid_.on_click);
+  });
+}
+
+void GridWindow::OnSelected(int item) {
+  if (item + 1 == grid_.Row()) return;
+  chosen_by_press_ = item;
+  Choose(item);
+}
+
+// A press on another row has chosen it already; a click on the chosen row counts once more.
+void GridWindow::OnClicked(int item) {
+  if (item != chosen_by_press_) Choose(item);
+  chosen_by_press_ = -1;
+}
+
+void GridWindow::OnActivated(int item) {
+  if (item < 0) return;
+  Owner().Run(grid_.on_dbl_click);
+}
+
+bool GridWindow::OnNotify(NMHDR& header, LRESULT&) {
+  switch (header.code) {
+    case LVN_GETDISPINFOW:
+      FillCell(reinterpret_cast<NMLVDISPINFOW&>(header));
+      return true;
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<NMLISTVIEW&>(header);
+      const bool selected = (change.uNewState & LVIS_SELECTED) != 0;
+      if (selected && (change.uOldState & LVIS_SELECTED) == 0) OnSelected(change.iItem);
+      return true;
+    }
+    case NM_CLICK:
+      OnClicked(reinterpret_cast<NMITEMACTIVATE&>(header).iItem);
+      return true;
+    case LVN_ITEMACTIVATE:
+      OnActivated(reinterpret_cast<NMITEMACTIVATE&>(header).iItem);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace trovex::win32

@@ -1,0 +1,104 @@
+#include "Ui/Win32/NativeControl.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include "Ui/TabControl.h"
+#include "Ui/Win32/FormWindow.h"
+
+namespace trovex::win32 {
+namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
+
+// Visible on a page that is not in front is not to be seen.
+bool OnVisiblePage(const Control& model) {
+  const Control* container = model.Container();
+  if (container == nullptr) return true;
+  const bool page_in_front = container->Kind() != ControlKind::kTabControl ||
+                             static_cast<const TabControl*>(container)->Tab() == model.Page();
+  return container->Visible() && page_in_front;
+}
+
+}  // namespace
+
+NativeControl::~NativeControl() {
+  if (handle_ != nullptr) DestroyWindow(handle_);
+}
+
+void NativeControl::Create(const wchar_t* window_class, DWORD style, DWORD extended_style) {
+  const RECT at = Rectangle();
+  handle_ = CreateWindowExW(extended_style, window_class, L"", style | WS_CHILD | WS_CLIPSIBLINGS,
+                            at.left, at.top, at.right - at.left, at.bottom - at.top, form_.Handle(),
+                            nullptr, GetModuleHandleW(nullptr), nullptr);
+  SetWindowSubclass(handle_, Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+  EnableWindow(handle_, model_.Enabled());
+  Rescale();
+  ApplyVisible();
+}
+
+void NativeControl::ApplyVisible() {
+  ShowWindow(handle_, model_.Visible() && OnVisiblePage(model_) ? SW_SHOWNA : SW_HIDE);
+}
+
+void NativeControl::Mirror(Property property) {
+  const bool before = mirroring_;
+  mirroring_ = true;
+  switch (property) {
+    case Property::kVisible:
+      ApplyVisible();
+      break;
+    case Property::kEnabled:
+      EnableWindow(handle_, model_.Enabled());
+      InvalidateRect(handle_, nullptr, TRUE);
+      break;
+    case Property::kPlace:
+      Rescale();
+      break;
+    default:
+      MirrorProperty(property);
+  }
+  mirroring_ = before;
+}
+
+RECT NativeControl::Rectangle() const {
+  Place place = model_.GetPlace();
+  if (const Control* container = model_.Container()) {
+    place.left += container->Left();
+    place.top += container->Top();
+  }
+  return GetScale().Rect(place);
+}
+
+void NativeControl::Rescale() {
+  const RECT at = Rectangle();
+  SetWindowPos(handle_, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  const HFONT font = GetShared().fonts.Get(ModelFont(), GetScale());
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+Scale NativeControl::GetScale() const {
+  return form_.GetScale();
+}
+Shared& NativeControl::GetShared() const {
+  return form_.GetShared();
+}
+
+LRESULT CALLBACK NativeControl::Subclass(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
+                                         DWORD_PTR data) {
+  auto* control = reinterpret_cast<NativeControl*>(data);
+  if (message == WM_NCDESTROY) {
+    RemoveWindowSubclass(window, Subclass, kSubclassId);
+    control->handle_ = nullptr;
+  } else if (message == WM_MOUSEMOVE) {
+    // Windows repeats the message where nothing has moved.
+    const POINT at = {GET_X_LPARAM(l), GET_Y_LPARAM(l)};
+    const bool moved = at.x != control->last_mouse_.x || at.y != control->last_mouse_.y;
+    control->last_mouse_ = at;
+    if (moved) control->form_.Run(control->model_.on_mouse_move);
+  }
+  return DefSubclassProc(window, message, w, l);
+}
+
+}  // namespace trovex::win32

@@ -1,0 +1,29 @@
+#include "Ui/Win32/ControlWindows.h"
+#include "Ui/Win32/FormWindow.h"
+
+namespace trovex::win32 {
+namespace {
+
+constexpr double kIconSize = 480;  // twips
+
+}  // namespace
+
+PictureWindow::PictureWindow(PictureBox& model, FormWindow& form)
+    : NativeControl(model, form), box_(model) {
+  Create(L"STATIC", SS_OWNERDRAW | SS_NOTIFY);
+  MirrorProperty(Property::kPicture);
+}
+
+void PictureWindow::MirrorProperty(Property) {
+  icon_ = LoadPicture(box_.GetPicture(), GetScale().Pixels(kIconSize));
+  InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void PictureWindow::OnDraw(const DRAWITEMSTRUCT& item) {
+  FillRect(item.hDC, &item.rcItem, Owner().Background());
+  if (icon_.Get() == nullptr) return;
+  const int size = GetScale().Pixels(kIconSize);
+  DrawIconEx(item.hDC, 0, 0, icon_.Get(), size, size, 0, nullptr, DI_NORMAL);
+}
+
+}  // namespace trovex::win32

@@ -1,0 +1,49 @@
+#include "Ui/Win32/Pictures.h"
+
+#include "Platform/Win32/Names.h"
+
+namespace trovex::win32 {
+namespace {
+
+HICON FromResource(const Text& name, int pixels) {
+  return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), Wide(name), IMAGE_ICON, pixels,
+                                       pixels, LR_DEFAULTCOLOR));
+}
+
+HICON FromFile(const Text& name, int pixels) {
+  const HANDLE icon = LoadImageW(nullptr, Wide(name), IMAGE_ICON, pixels, pixels, LR_LOADFROMFILE);
+  return static_cast<HICON>(icon);
+}
+
+HICON FromInside(const Text& name, int index) {
+  HICON large = nullptr;
+  ExtractIconExW(Wide(name), index, &large, nullptr, 1);
+  return large;
+}
+
+}  // namespace
+
+OwnedIcon LoadPicture(const Picture& picture, int pixels) {
+  switch (picture.source) {
+    case Picture::Source::kNone:
+      break;
+    case Picture::Source::kResource:
+      return OwnedIcon(FromResource(picture.name, pixels));
+    case Picture::Source::kFile:
+      return OwnedIcon(FromFile(picture.name, pixels));
+    case Picture::Source::kIconOf:
+      return OwnedIcon(FromInside(picture.name, picture.index));
+  }
+  return {};
+}
+
+HICON ResourceIcons::Get(const Text& name, int pixels) {
+  const auto key = std::pair(name, pixels);
+  auto known = icons_.find(key);
+  if (known == icons_.end()) {
+    known = icons_.emplace(key, OwnedIcon(FromResource(name, pixels))).first;
+  }
+  return known->second.Get();
+}
+
+}  // namespace trovex::win32

@@ -1,0 +1,72 @@
+#include "Platform/Win32/Names.h"
+#include "Ui/Win32/ControlWindows.h"
+#include "Ui/Win32/FormWindow.h"
+
+namespace trovex::win32 {
+namespace {
+
+DWORD StyleOf(const TextBox& box) {
+  DWORD style = WS_TABSTOP;
+  if (box.MultiLine()) {
+    style |= ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL | WS_VSCROLL | WS_HSCROLL;
+  } else {
+    style |= ES_AUTOHSCROLL;
+  }
+  if (box.Locked()) style |= ES_READONLY;
+  if (box.GetAlignment() == Alignment::kCentre) style |= ES_CENTER;
+  return style;
+}
+
+Text TextOf(HWND window) {
+  Text text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, u'\0');
+  const int length = GetWindowTextW(window, Wide(text), static_cast<int>(text.size()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+}  // namespace
+
+TextBoxWindow::TextBoxWindow(TextBox& model, FormWindow& form)
+    : NativeControl(model, form), box_(model), background_(nullptr) {
+  Create(L"EDIT", StyleOf(model), WS_EX_CLIENTEDGE);
+  Send(EM_SETLIMITTEXT);
+  MirrorProperty(Property::kColour);
+  Flush();
+}
+
+TextBoxWindow::~TextBoxWindow() {
+  if (background_ != nullptr) DeleteObject(background_);
+}
+
+void TextBoxWindow::MirrorProperty(Property property) {
+  if (property == Property::kColour) {
+    if (background_ != nullptr) DeleteObject(background_);
+    background_ = CreateSolidBrush(NativeColour(box_.BackColor()));
+    InvalidateRect(Handle(), nullptr, TRUE);
+  }
+  if (property == Property::kText) {
+    stale_ = true;
+    Owner().RequestFlush();
+  }
+}
+
+void TextBoxWindow::Flush() {
+  if (!stale_) return;
+  stale_ = false;
+  SetWindowTextW(Handle(), Wide(box_.GetText()));
+}
+
+void TextBoxWindow::OnCommand(WORD code) {
+  // What the window shows of the model is no typing.
+  if (code != EN_CHANGE || stale_ || box_.Locked()) return;
+  const Text typed = TextOf(Handle());
+  if (typed != box_.GetText()) Owner().Run([&] { box_.SetText(typed); });
+}
+
+HBRUSH TextBoxWindow::OnColour(HDC dc) {
+  SetBkColor(dc, NativeColour(box_.BackColor()));
+  SetTextColor(dc, NativeColour(box_.ForeColor()));
+  return background_;
+}
+
+}  // namespace trovex::win32

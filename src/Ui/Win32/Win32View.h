@@ -1,0 +1,59 @@
+// The view of the Windows program.
+#pragma once
+
+#include <exception>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "Ui/View.h"
+#include "Ui/Win32/FormWindow.h"
+
+namespace trovex::win32 {
+
+class Win32View : public View {
+ public:
+  Win32View();
+  ~Win32View() override;
+
+  // Runs until the program ends; rethrows the run-time error that ended it.
+  void Run();
+  // Ends the loops, the modal ones too.
+  void End() { ended_ = true; }
+  // What a run-time error that no handler catches does.
+  void Fail(std::exception_ptr error);
+
+  Shared& GetShared() { return shared_; }
+  Pointer GetPointer() const { return pointer_; }
+  FormWindow* Of(const Form& form) const;
+
+  void Attach(Form& form) override;
+  void Detach(Form& form) override;
+  void Changed(Control& control, Property property) override;
+  void Repaint(Control& control) override;
+  void SetFocus(Control& control) override;
+  void RunModal(Form& form) override;
+  void SetTopmost(Form& form, bool topmost) override;
+  void DrawStroke(Form& form, const Stroke& stroke) override;
+  BoxAnswer ShowBox(const Box& box) override;
+  bool ShowFileDialog(CommonDialog& dialog) override;
+  void ShowHelp(CommonDialog& dialog) override;
+  void SetPointer(Pointer pointer) override;
+  Extent ScreenSize() override;
+
+ private:
+  FormWindow* WindowOf(Control& control) const;
+  // Window that boxes and dialogs belong to.
+  HWND Owner() const;
+  // Handles one message; false at the end of the program.
+  bool PumpOne();
+
+  Shared shared_;
+  std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
+  std::vector<std::unique_ptr<FormWindow>> gone_;  // detached while a message of theirs was handled
+  Pointer pointer_ = Pointer::kDefault;
+  bool ended_ = false;
+  std::exception_ptr failure_;
+};
+
+}  // namespace trovex::win32
