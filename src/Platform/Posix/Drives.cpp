@@ -37,6 +37,18 @@ void Descend(Text& path, TextView level) {
   path += level;
 }
 
+// True for a name that is whole already, as nearly all are: "D:\\A\\B".
+bool IsWhole(TextView name) {
+  if (name.size() < 3 || !IsLetter(name[0]) || name[1] != u':' || name[2] != u'\\') return false;
+  for (std::size_t i = 3; i < name.size(); ++i) {
+    if (name[i] == u'/' || name[i] == u'\0') return false;
+    // An empty level, or one that may be "." or "..".
+    const bool starts_level = name[i - 1] == u'\\';
+    if (starts_level && (name[i] == u'\\' || name[i] == u'.')) return false;
+  }
+  return name.size() == 3 || name.back() != u'\\';
+}
+
 }  // namespace
 
 Drives::Drives(std::vector<Drive> drives, char16_t current) : drives_(std::move(drives)) {
@@ -70,6 +82,9 @@ std::uint32_t Drives::Mask() const {
 }
 
 std::optional<Text> Drives::FullName(TextView name) const {
+  if (IsWhole(name)) {
+    return Find(name[0]) != nullptr ? std::optional<Text>(name) : std::nullopt;
+  }
   if (name.empty() || name.find(u'\0') != TextView::npos) return std::nullopt;
   char16_t letter = current_;
   if (name.size() > 1 && name[1] == u':') {

@@ -16,18 +16,36 @@ namespace {
 
 constexpr char16_t kShownBackslash = 0xF05C;
 
-struct CloseDirectory {
-  void operator()(DIR* directory) const { closedir(directory); }
-};
-using DirectoryStream = std::unique_ptr<DIR, CloseDirectory>;
+// Entries of an open directory, in the system's own order. The plain call under readdir: a
+// catalogue lists every directory of a disc, and the stream around it would double the calls.
+class EntryReader {
+ public:
+  explicit EntryReader(int directory) : directory_(directory) {}
 
-DirectoryStream OpenStream(const std::string& host) {
-  FileDescriptor fd =
-      OpenHostPath(host.empty() ? "/" : host, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK);
-  if (!fd.IsOpen()) return nullptr;
-  DirectoryStream stream(fdopendir(fd.Get()));
-  if (stream) fd.Release();
-  return stream;
+  // The next entry, good until the next call; null at the end and on failure, which sets errno.
+  const dirent64* Next() {
+    if (next_ == end_ && !Fill()) return nullptr;
+    const auto* entry = reinterpret_cast<const dirent64*>(buffer_ + next_);
+    next_ += entry->d_reclen;
+    return entry;
+  }
+
+ private:
+  bool Fill() {
+    errno = 0;
+    const ssize_t got = getdents64(directory_, buffer_, sizeof buffer_);
+    next_ = 0;
+    end_ = got > 0 ? static_cast<std::size_t>(got) : 0;
+    return got > 0;
+  }
+
+  int directory_;
+  std::size_t next_ = 0, end_ = 0;
+  alignas(dirent64) char buffer_[32768];
+};
+
+FileDescriptor OpenDirectory(const std::string& host) {
+  return OpenHostPath(host.empty() ? "/" : host, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK);
 }
 
 bool IsDots(const char* name) {
@@ -47,7 +65,7 @@ EntryKind KindOf(mode_t mode) {
 }
 
 // Most file systems tell the kind along with the name, which saves a call an entry.
-EntryKind KindOf(int directory, const dirent& entry) {
+EntryKind KindOf(int directory, const dirent64& entry) {
   switch (entry.d_type) {
     case DT_REG:
       return EntryKind::kFile;
@@ -101,15 +119,12 @@ EntryKind KindOfHost(const std::string& path) {
 }
 
 std::shared_ptr<const Listing> Listing::Read(const std::string& host) {
-  const DirectoryStream stream = OpenStream(host);
-  if (!stream) return nullptr;
+  const FileDescriptor directory = OpenDirectory(host);
+  if (!directory.IsOpen()) return nullptr;
   auto listing = std::make_shared<Listing>();
-  const int directory = dirfd(stream.get());
-  for (;;) {
-    errno = 0;
-    const dirent* entry = readdir(stream.get());
-    if (entry == nullptr) break;
-    if (!IsDots(entry->d_name)) listing->Add(entry->d_name, KindOf(directory, *entry));
+  EntryReader entries(directory.Get());
+  while (const dirent64* entry = entries.Next()) {
+    if (!IsDots(entry->d_name)) listing->Add(entry->d_name, KindOf(directory.Get(), *entry));
   }
   // A directory that breaks off half-way, as on a scratched disc, gives what was readable.
   if (errno != 0 && listing->records_.empty()) return nullptr;

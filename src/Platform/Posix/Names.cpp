@@ -83,12 +83,13 @@ std::optional<Place> Names::Find(const Text& name) {
   return Walk({*full, upper});
 }
 
-std::shared_ptr<const Listing> Names::List(const Text& directory) {
+std::shared_ptr<const Listing> Names::List(const Text& directory, bool& root) {
   const std::optional<Text> full = drives_.FullName(directory);
   if (!full) {
     errno = ENOTDIR;
     return nullptr;
   }
+  root = full->size() == kRootLength;
   const Text upper = ToUpper(*full);
   hint_failed_ = false;
   auto listing = ListOnce({*full, upper});

@@ -55,8 +55,8 @@ class Names {
   // The place of a name; nothing where the directory that should hold it is missing or out of
   // reach, with the reason in errno: ENOTDIR where a level is missing, ENOENT for an empty name.
   std::optional<Place> Find(const Text& name);
-  // A directory read afresh; null with the reason in errno.
-  std::shared_ptr<const Listing> List(const Text& directory);
+  // A directory read afresh, and whether it is a drive's root; null with the reason in errno.
+  std::shared_ptr<const Listing> List(const Text& directory, bool& root);
   // The name by which the program reaches `path`, an absolute host path, on a drive whose root is
   // in front of it. Levels that are missing keep their spelling.
   Text NameOfHost(const Drive& drive, const std::string& path);

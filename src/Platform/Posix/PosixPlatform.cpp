@@ -24,6 +24,7 @@ namespace {
 constexpr std::size_t kCopyBuffer = 65536;
 // What stands behind this in a profile file is not read, and a longer file is not written.
 constexpr std::size_t kMaxProfile = 1 << 20;
+constexpr std::size_t kProfilePiece = 4096;  // read at a time, a whole part of kMaxProfile
 
 constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 
@@ -102,10 +103,13 @@ int CopyContents(int source, Replacement& target) {
 int ReadProfile(const std::string& host, std::string& bytes) {
   const FileDescriptor file = OpenHostFile(host);
   if (!file.IsOpen()) return errno;
-  bytes.resize(kMaxProfile);
-  const std::ptrdiff_t got = ReadFully(file.Get(), bytes.data(), bytes.size());
-  if (got < 0) return errno;
-  bytes.resize(static_cast<std::size_t>(got));
+  char piece[kProfilePiece];
+  while (bytes.size() < kMaxProfile) {
+    const std::ptrdiff_t got = ReadFully(file.Get(), piece, sizeof piece);
+    if (got < 0) return errno;
+    bytes.append(piece, static_cast<std::size_t>(got));
+    if (static_cast<std::size_t>(got) < sizeof piece) break;
+  }
   return 0;
 }
 
@@ -162,13 +166,15 @@ FindHandle PosixPlatform::FindFirstFile(const Text& pattern, FindData& data) {
   const std::size_t cut = pattern.find_last_of(u"\\/:") + 1;
   const TextView level = TextView(pattern).substr(cut);
   if (!HasWildcard(level)) return FindSingle(pattern, data);
-  const Text directory = cut == 0 ? Text(u".") : pattern.substr(0, cut);
-  auto listing = names_.List(directory);
+  // Without its final backslash, but for a root.
+  const bool drop = cut > 3 && pattern[cut - 1] != u':';
+  const Text directory = cut == 0 ? Text(u".") : pattern.substr(0, drop ? cut - 1 : cut);
+  bool root = false;
+  auto listing = names_.List(directory, root);
   if (!listing) {
     last_error_ = errno;
     return FindHandle::kInvalid;
   }
-  const bool root = drives_.FullName(directory)->back() == u'\\';
   const auto dots = root ? FindTable::Dots::kNone : FindTable::Dots::kFirst;
   const FindHandle handle = finds_.Begin(std::move(listing), level, dots, data);
   if (handle == FindHandle::kInvalid) last_error_ = ENOENT;

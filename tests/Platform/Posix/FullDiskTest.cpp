@@ -1,0 +1,68 @@
+// Writes that fail half-way, as on a full disk.
+#include <signal.h>
+#include <sys/resource.h>
+
+#include "Platform/Posix/PosixFixture.h"
+
+namespace trovex::test {
+namespace {
+
+using testing::ElementsAre;
+
+// No file of this process grows beyond `size` bytes for the life of the object; what does not fit
+// is refused as by a full disk.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t size) : former_action_(signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &former_);
+    const rlimit limit = {size, former_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &former_);
+    signal(SIGXFSZ, former_action_);
+  }
+
+ private:
+  rlimit former_ = {};
+  void (*former_action_)(int);
+};
+
+class FullDisk : public PosixFixture {};
+
+TEST_F(FullDisk, AWriteRaises) {
+  const FileHandle file = platform_.OpenWrite(u"D:\\A.TXT");
+  {
+    const FileSizeLimit limit(1000);
+    const std::string bytes(600, 'x');
+    platform_.Write(file, bytes.data(), bytes.size());
+    EXPECT_EQ(ErrorOf([&] { platform_.Write(file, bytes.data(), bytes.size()); }),
+              ErrorNumber::kDiskFull);
+    EXPECT_NE(platform_.GetLastError(), 0U);
+  }
+  platform_.Close(file);
+}
+
+TEST_F(FullDisk, ACopyLeavesNothingBehind) {
+  disc_.File("A.TXT", std::string(5000, 'x'));
+  {
+    const FileSizeLimit limit(1000);
+    EXPECT_EQ(CopyError(u"D:\\A.TXT", u"D:\\B.TXT"), ErrorNumber::kDiskFull);
+  }
+  EXPECT_THAT(FindAll(u"D:\\*.*"), ElementsAre(u"A.TXT"));
+}
+
+TEST_F(FullDisk, AProfileFileIsAsItWas) {
+  const std::string contents = "[a]\r\nk=1\r\n" + std::string(995, ';');
+  disc_.File("A.INI", contents);
+  {
+    const FileSizeLimit limit(1000);
+    EXPECT_FALSE(platform_.WritePrivateProfileString(u"a", u"k", u"deux", u"D:\\A.INI"));
+    EXPECT_NE(platform_.GetLastError(), 0U);
+  }
+  EXPECT_EQ(Contents(u"D:\\A.INI"), contents);
+  EXPECT_THAT(FindAll(u"D:\\*.*"), ElementsAre(u"A.INI"));
+}
+
+}  // namespace
+}  // namespace trovex::test
