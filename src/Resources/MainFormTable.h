@@ -13,6 +13,6 @@ inline constexpr Extent kMainFormMinimum = {11025, 7830};
 
 // Captions of the tabs, and the names of the pictures beside them.
 inline constexpr const char16_t* kMainFormTabs[] = {u"Setup/Install", u"Exe", u"Archive ZIP"};
-inline constexpr const char16_t* kMainFormTabPictures[] = {u"TabSetup", u"TabExe", u"TabZip"};
+inline constexpr const char16_t* kMainFormTabPictures[] = {u"Onglet0", u"Onglet1", u"Onglet2"};
 
 }  // namespace trovex

@@ -7,7 +7,8 @@ namespace trovex::win32 {
 namespace {
 
 constexpr double kPictureSize = 480;       // twips, over a caption
-constexpr double kSmallPictureSize = 240;  // alone on a small button
+constexpr double kSmallPictureSize = 240;  // on a button too low for that
+constexpr double kLowButton = 540;
 constexpr double kGap = 45;
 
 }  // namespace
@@ -51,7 +52,7 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
 void ButtonWindow::DrawFace(HDC dc, const RECT& area, bool disabled) {
   const int caption = button_.Caption().empty() ? 0 : CaptionHeight(dc);
   const Scale scale = GetScale();
-  const int size = scale.Pixels(caption > 0 ? kPictureSize : kSmallPictureSize);
+  const int size = scale.Pixels(button_.Height() < kLowButton ? kSmallPictureSize : kPictureSize);
   const int gap = caption > 0 && !button_.Picture().empty() ? scale.Pixels(kGap) : 0;
   const int picture = button_.Picture().empty() ? 0 : size;
   int top = area.top + (area.bottom - area.top - picture - gap - caption) / 2;

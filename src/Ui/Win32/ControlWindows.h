@@ -47,6 +47,7 @@ class LabelWindow : public NativeControl {
  protected:
   void MirrorProperty(Property property) override;
   Font ModelFont() const override { return label_.GetFont(); }
+  RECT Rectangle() const override;
 
  private:
   Captioned& label_;

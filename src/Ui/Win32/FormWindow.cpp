@@ -60,6 +60,16 @@ void FormWindow::CreateWindowAndControls() {
     by_model_[control.get()] = window.get();
     controls_.push_back(std::move(window));
   }
+  LowerContainers();
+}
+
+// What stands on a container lies above it.
+void FormWindow::LowerContainers() {
+  for (const auto& control : controls_) {
+    if (control->Model().Kind() != ControlKind::kTabControl) continue;
+    SetWindowPos(control->Handle(), HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
 }
 
 Shared& FormWindow::GetShared() const {

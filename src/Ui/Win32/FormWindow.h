@@ -50,6 +50,7 @@ class FormWindow {
   bool Route(UINT message, WPARAM w, LPARAM l, LRESULT& result);
 
   void CreateWindowAndControls();
+  void LowerContainers();
   void MirrorForm(Property property);
   void PlaceWindow();
   void OnSize(WPARAM kind);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "Platform/Win32/Names.h"
 #include "Ui/Win32/ControlWindows.h"
 #include "Ui/Win32/FormWindow.h"
@@ -17,6 +19,17 @@ DWORD StyleOf(Alignment alignment) {
   return SS_LEFT;
 }
 
+// Width of a line of text in pixels.
+int WidthOf(const Text& text, HFONT font) {
+  const HDC dc = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(dc, font);
+  SIZE size = {};
+  GetTextExtentPoint32W(dc, Wide(text), static_cast<int>(text.size()), &size);
+  SelectObject(dc, before);
+  ReleaseDC(nullptr, dc);
+  return size.cx;
+}
+
 }  // namespace
 
 LabelWindow::LabelWindow(Captioned& model, FormWindow& form)
@@ -27,7 +40,23 @@ LabelWindow::LabelWindow(Captioned& model, FormWindow& form)
 
 void LabelWindow::MirrorProperty(Property) {
   SetWindowTextW(Handle(), Wide(label_.Caption()));
+  Rescale();
   InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+// The place of a one-line label was measured with another font: a wider text gets what it needs, to
+// the left where it is aligned to the right.
+RECT LabelWindow::Rectangle() const {
+  RECT at = NativeControl::Rectangle();
+  if (label_.Kind() != ControlKind::kLabel) return at;
+  const int needed = WidthOf(label_.Caption(), GetShared().fonts.Get(ModelFont(), GetScale()));
+  const int missing = std::max(0, needed - static_cast<int>(at.right - at.left));
+  if (label_.GetAlignment() == Alignment::kRight) {
+    at.left -= missing;
+  } else {
+    at.right += missing;
+  }
+  return at;
 }
 
 HBRUSH LabelWindow::OnColour(HDC dc) {

@@ -20,8 +20,6 @@ TabWindow::TabWindow(TabControl& model, FormWindow& form)
     Send(TCM_INSERTITEMW, i, reinterpret_cast<LPARAM>(&item));
   }
   MirrorProperty(Property::kSelection);
-  // The pages' controls lie above the tabs.
-  SetWindowPos(Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 TabWindow::~TabWindow() {
@@ -32,8 +30,8 @@ void TabWindow::LoadPictures() {
   const int size = GetScale().Pixels(kPicture);
   if (pictures_ != nullptr) ImageList_Destroy(pictures_);
   pictures_ = ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 3, 1);
-  for (std::size_t i = 0; i < tabs_.Captions().size(); ++i) {
-    const HICON icon = GetShared().icons.Get(u"Onglet" + Decimal(static_cast<int>(i)), size);
+  for (const Text& name : tabs_.Pictures()) {
+    const HICON icon = GetShared().icons.Get(name, size);
     if (icon != nullptr) ImageList_ReplaceIcon(pictures_, -1, icon);
   }
   Send(TCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_));
