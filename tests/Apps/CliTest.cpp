@@ -120,7 +120,8 @@ TEST_F(CatalogueTest, InspectAddsWhatAClickOnEachRowShows) {
 }
 
 TEST_F(CatalogueTest, WithoutInspectThereAreNoDetails) {
-  for (const Json& table : Catalogue()["tables"]) EXPECT_FALSE(table.contains("details"));
+  const Json catalogue = Catalogue();
+  for (const Json& table : catalogue["tables"]) EXPECT_FALSE(table.contains("details"));
 }
 
 TEST_F(CatalogueTest, ProgressGoesToATerminalAlone) {
