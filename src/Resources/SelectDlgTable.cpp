@@ -19,7 +19,7 @@ constexpr ControlSpec kControls[] = {
 
 }  // namespace
 
-const FormSpec kSelectDlgSpec = {
-    u"Lib_SelectDlg", u"", 5400, 2295, false, kButtonFaceColour, kControls};
+const FormSpec kSelectDlgSpec = {u"Lib_SelectDlg",  u"",      5400, 2295, false,
+                                 kButtonFaceColour, kControls};
 
 }  // namespace trovex

@@ -11,9 +11,13 @@ void Form_Resize(MainForm& form);
 void Form_Paint(MainForm& form);
 void Form_Unload(MainForm& form);
 void ListeDrive_Change(MainForm& form);
+void CommandOption_Click();
 
 // HelpLine.cpp: the text that each control writes into the status line under the mouse.
 void BindHelpLine(MainForm& form);
+
+// AccessibleNames.cpp: what a screen reader says.
+void NameControls(MainForm& form);
 
 // Exploration.cpp: scans from the highlighted directory, then shows the largest table.
 void Explorer_Click(MainForm& form);
@@ -40,6 +44,9 @@ void ListFichier_DblClick(MainForm& form);
 // Launching.cpp: starts the program of a row after a question, opens an archive without one.
 void GridLogiciel_DblClick(MainForm& form, int Index);
 void GridLogiciel_MouseMove(int Index);
+
+// ConvertHTML.cpp: asks what to export to HTML, and where, and exports it.
+void ConvertHTML_Click(MainForm& form);
 
 // TabSwitching.cpp: re-aims panes and commands at the table now visible.
 void ZoneDesTableaux_Click(MainForm& form);

@@ -62,6 +62,7 @@ void MainForm::DressControls() {
   }
   for (int i = 0; i < kTableCount; ++i) GridLogiciel(i).SetFont({u"Times New Roman", 9.75});
   DressTextBoxes();
+  NameControls(*this);
   PanelAide.AddPanel(u"Msg", StatusBar::PanelStyle::kText);
   PanelAide.AddPanel(u"Maj", StatusBar::PanelStyle::kCapsLock);
   PanelAide.AddPanel(u"Num", StatusBar::PanelStyle::kNumLock);
@@ -103,6 +104,8 @@ void MainForm::BindEvents() {
   on_unload = [this] { Form_Unload(*this); };
   ListeDrive.on_change = [this] { ListeDrive_Change(*this); };
   Explorer.on_click = [this] { Explorer_Click(*this); };
+  ConvertHTML.on_click = [this] { ConvertHTML_Click(*this); };
+  CommandOption.on_click = [] { CommandOption_Click(); };
   Quitter.on_click = [this] { Unload(); };
   ZoneDesTableaux.on_tab_click = [this](int) { ZoneDesTableaux_Click(*this); };
   ListFichier.on_click = [this] { ListFichier_Click(*this); };

@@ -1,3 +1,4 @@
+#include "Html/Lib_OptionsHTML.h"
 #include "Lib/Graphics.h"
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
@@ -68,6 +69,12 @@ void Form_Paint(MainForm& form) {
 
 void Form_Unload(MainForm& form) {
   FermerApplication(form, true);
+}
+
+void CommandOption_Click() {
+  BusyOn();
+  Lib_OptionsHTML().ShowModal();
+  BusyOff();
 }
 
 void ListeDrive_Change(MainForm& form) {

@@ -35,6 +35,8 @@ enum class ControlKind {
   kShape,
   kStatusBar,
   kOptionButton,
+  kCheckBox,
+  kScrollBar,
   kPanel,
   kCommonDialog,
 };
@@ -88,6 +90,9 @@ class Control {
   void SetTag(Text tag) { tag_ = std::move(tag); }
   const Text& ToolTip() const { return tool_tip_; }
   void SetToolTip(Text tip) { tool_tip_ = std::move(tip); }
+  // What a screen reader says for a control whose own text does not tell; empty where it does.
+  const Text& AccessibleName() const { return accessible_name_; }
+  void SetAccessibleName(Text name) { accessible_name_ = std::move(name); }
   int TabOrder() const { return tab_order_; }
   void SetTabOrder(int order) { tab_order_ = order; }
   unsigned BackColor() const { return back_color_; }
@@ -119,6 +124,7 @@ class Control {
   bool enabled_ = true;
   Text tag_;
   Text tool_tip_;
+  Text accessible_name_;
   int tab_order_ = -1;
   unsigned back_color_ = 0xFFFFFF;
 };

@@ -1,11 +1,13 @@
 #include "Ui/ControlFactory.h"
 
+#include "Ui/CheckBox.h"
 #include "Ui/CommonDialog.h"
 #include "Ui/FileListBox.h"
 #include "Ui/Grid.h"
 #include "Ui/Label.h"
 #include "Ui/ListBox.h"
 #include "Ui/Picture.h"
+#include "Ui/ScrollBar.h"
 #include "Ui/StatusBar.h"
 #include "Ui/TabControl.h"
 #include "Ui/TextBox.h"
@@ -47,6 +49,10 @@ std::unique_ptr<Control> Create(ControlKind kind) {
       return std::make_unique<StatusBar>();
     case ControlKind::kOptionButton:
       return std::make_unique<OptionButton>();
+    case ControlKind::kCheckBox:
+      return std::make_unique<CheckBox>();
+    case ControlKind::kScrollBar:
+      return std::make_unique<ScrollBar>();
     case ControlKind::kPanel:
       return std::make_unique<Panel>();
     case ControlKind::kCommonDialog:

@@ -27,6 +27,8 @@ class TextBox : public Control {
   void SetAlignment(Alignment alignment) { alignment_ = alignment; }
 
   Event on_change;
+  Event on_enter;       // the Enter key, which is used up
+  Event on_lost_focus;  // the input focus goes elsewhere
 
  private:
   Text text_;

@@ -1,10 +1,12 @@
 #include "Apps/trovex-cli/Cli.h"
 
+#include <algorithm>
 #include <ostream>
 
 #include "Apps/trovex-cli/Catalogue.h"
 #include "Apps/trovex-cli/Options.h"
 #include "Lib/LIB_INI.h"
+#include "Lib/Lib_SelectDlg.h"
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
 #include "Scanner/LIB_GENERALE.h"
@@ -88,8 +90,9 @@ class Session {
     std::optional<Inspection> inspection;
     if (options_.inspect) inspection = InspectRows(form);
     Print(form, start, inspection ? &*inspection : nullptr, out);
+    const bool exported = !options_.html || ExportHtml(form, host_.NameOf(*options_.html));
     form.Quitter.Press();
-    return kDone;
+    return exported ? kDone : kExportFailed;
   }
 
  private:
@@ -101,6 +104,30 @@ class Session {
     }
     out.flush();
     if (!out) throw RuntimeError(ErrorNumber::kDiskFull, u"trovex-cli");
+  }
+
+  // Presses the button and answers for the user; false if an error box came up.
+  bool ExportHtml(MainForm& form, const Text& file) {
+    view_.AnswerFile(file);
+    view_.AnswerQuestion(options_.table ? BoxAnswer::kNo : BoxAnswer::kYes);  // all the tables?
+    if (options_.table) {
+      view_.AnswerForm([this](Form& dialog) {
+        Lib_SelectDlg& choice = static_cast<Lib_SelectDlg&>(dialog);
+        Raise(choice.SelOptions(*options_.table).on_click);
+        choice.Oui().Press();
+      });
+    }
+    view_.AnswerQuestion(options_.drop_drive ? BoxAnswer::kNo : BoxAnswer::kYes);  // keep it?
+    view_.AnswerQuestion(BoxAnswer::kNo);                                          // look at it?
+    const std::size_t before = ErrorBoxes();
+    Raise(form.ConvertHTML.on_click);
+    return ErrorBoxes() == before;
+  }
+
+  std::size_t ErrorBoxes() const {
+    const auto is_error = [](const Box& box) { return box.style == BoxStyle::kErreur; };
+    return static_cast<std::size_t>(
+        std::count_if(view_.Boxes().begin(), view_.Boxes().end(), is_error));
   }
 
   const Options& options_;

@@ -43,6 +43,12 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
   app.add_flag("--inspect", options.inspect, "Adds to the JSON what a click on each row shows");
   app.add_option("--ini", options.ini, "Settings file instead of Trovex.ini beside the program")
       ->type_name("FILE");
+  app.add_option("--html", options.html, "Exports to HTML: frames, tables, data")
+      ->type_name("FILE");
+  app.add_option("--table", options.table, "One table only: 0, 1 or 2")
+      ->type_name("N")
+      ->check(CLI::Range(0, 2));
+  app.add_flag("--drop-drive", options.drop_drive, "The HTML export leaves out the drive letter");
   app.add_flag("--quiet", options.quiet, "No tables, no progress");
   app.set_version_flag("--version", std::string(kProgramName) + " " + kVersionText);
 

@@ -11,7 +11,10 @@ struct Options {
   std::string directory;
   char drive = 'D';
   std::optional<std::string> start;
-  std::optional<std::string> ini;  // a file name of the host's
+  std::optional<std::string> ini;   // a file name of the host's
+  std::optional<std::string> html;  // likewise
+  std::optional<int> table;
+  bool drop_drive = false;
   bool json = false;
   bool inspect = false;
   bool quiet = false;

@@ -60,6 +60,8 @@ void HeadlessView::SetTopmost(Form& form, bool topmost) {
 BoxAnswer HeadlessView::ShowBox(const Box& box) {
   boxes_.push_back(box);
   if (on_box) on_box(box);
+  const bool question = box.style == BoxStyle::kQuestion;
+  if (question && !question_answers_.empty()) return TakeFirst(question_answers_);
   if (!box_answers_.empty()) return TakeFirst(box_answers_);
   Complain(box.text);
   return DefaultAnswer(box.style);

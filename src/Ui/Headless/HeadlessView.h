@@ -18,6 +18,9 @@ class HeadlessView : public View {
   explicit HeadlessView(Unexpected unexpected = Unexpected::kDefaultAnswer)
       : unexpected_(unexpected) {}
 
+  // Answers questions, and questions alone, before the queue of boxes is asked.
+  void AnswerQuestion(BoxAnswer answer) { question_answers_.push_back(answer); }
+
   // The queues. Answers are used in the order of their coming.
   void Answer(BoxAnswer answer) { box_answers_.push_back(answer); }
   // A file name chosen, or the dialog cancelled where it is empty.
@@ -25,7 +28,7 @@ class HeadlessView : public View {
   // What a user does in the next modal form; it must end by hiding or unloading the form.
   void AnswerForm(std::function<void(Form&)> user) { form_answers_.push_back(std::move(user)); }
   std::size_t UnusedAnswers() const {
-    return box_answers_.size() + file_answers_.size() + form_answers_.size();
+    return question_answers_.size() + box_answers_.size() + file_answers_.size() + form_answers_.size();
   }
 
   // What was shown, in order.
@@ -70,6 +73,7 @@ class HeadlessView : public View {
   void Complain(Text what);
 
   Unexpected unexpected_;
+  std::deque<BoxAnswer> question_answers_;
   std::deque<BoxAnswer> box_answers_;
   std::deque<Text> file_answers_;
   std::deque<std::function<void(Form&)>> form_answers_;

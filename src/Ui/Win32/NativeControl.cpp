@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include "Ui/TabControl.h"
+#include "Ui/Win32/Accessibility.h"
 #include "Ui/Win32/FormWindow.h"
 
 namespace trovex::win32 {
@@ -33,6 +34,7 @@ void NativeControl::Create(const wchar_t* window_class, DWORD style, DWORD exten
                             nullptr, GetModuleHandleW(nullptr), nullptr);
   SetWindowSubclass(handle_, Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
   EnableWindow(handle_, model_.Enabled());
+  SetAccessibleName(handle_, model_.AccessibleName());
   Rescale();
   ApplyVisible();
 }

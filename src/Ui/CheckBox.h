@@ -1,0 +1,22 @@
+// A box that is on or off.
+#pragma once
+
+#include "Ui/Label.h"
+
+namespace trovex {
+
+class CheckBox : public Captioned {
+ public:
+  CheckBox() : Captioned(ControlKind::kCheckBox) {}
+
+  bool Value() const { return value_; }
+  // A new state raises the click.
+  void SetValue(bool value);
+  // The state of the design, without the click.
+  void Preset(bool value) { value_ = value; }
+
+ private:
+  bool value_ = false;
+};
+
+}  // namespace trovex
