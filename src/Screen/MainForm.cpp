@@ -56,6 +56,8 @@ void MainForm::DressControls() {
   }
   // The captions of the detail boxes end at the same edge.
   for (int i : {11, 20, 21, 22}) Get<Label>(u"Label2", i).SetAlignment(Alignment::kRight);
+  IconeFichier.SetBackColor(BackColor());
+  ImageSelect.SetBackColor(BackColor());
   ImageAppli.SetPicture({Picture::Source::kResource, u"Trovex"});
   for (int i = 0; i < kButtonCount; ++i) {
     ShapeOmbre(i).SetBackColor(Rgb(128, 128, 128));

@@ -9,6 +9,7 @@
 #include "Lib/Lib_SelectDlg.h"
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
+#include "Resources/Strings.h"
 #include "Scanner/LIB_GENERALE.h"
 #include "Ui/Directory.h"
 #include "Ui/Headless/HeadlessView.h"
@@ -106,7 +107,7 @@ class Session {
     if (!out) throw RuntimeError(ErrorNumber::kDiskFull, u"trovex-cli");
   }
 
-  // Presses the button and answers for the user; false if an error box came up.
+  // Presses the button and answers for the user; false if it could not be written.
   bool ExportHtml(MainForm& form, const Text& file) {
     view_.AnswerFile(file);
     view_.AnswerQuestion(options_.table ? BoxAnswer::kNo : BoxAnswer::kYes);  // all the tables?
@@ -119,13 +120,17 @@ class Session {
     }
     view_.AnswerQuestion(options_.drop_drive ? BoxAnswer::kNo : BoxAnswer::kYes);  // keep it?
     view_.AnswerQuestion(BoxAnswer::kNo);                                          // look at it?
-    const std::size_t before = ErrorBoxes();
+    const std::size_t before = ExportErrors();
     Raise(form.ConvertHTML.on_click);
-    return ErrorBoxes() == before;
+    return ExportErrors() == before;
   }
 
-  std::size_t ErrorBoxes() const {
-    const auto is_error = [](const Box& box) { return box.style == BoxStyle::kErreur; };
+  std::size_t ExportErrors() const {
+    // What rows say of missing disks is no failure of the export.
+    const auto is_error = [](const Box& box) {
+      return box.text.starts_with(ResString(StringId::kErreurHtml)) ||
+             box.text.starts_with(ResString(StringId::kErreurEcriture));
+    };
     return static_cast<std::size_t>(
         std::count_if(view_.Boxes().begin(), view_.Boxes().end(), is_error));
   }

@@ -1,11 +1,13 @@
 // The windows of the control kinds, one source file a kind.
 #pragma once
 
+#include "Ui/CheckBox.h"
 #include "Ui/FileListBox.h"
 #include "Ui/Grid.h"
 #include "Ui/Label.h"
 #include "Ui/ListBox.h"
 #include "Ui/Picture.h"
+#include "Ui/ScrollBar.h"
 #include "Ui/StatusBar.h"
 #include "Ui/TabControl.h"
 #include "Ui/TextBox.h"
@@ -66,6 +68,31 @@ class OptionWindow : public NativeControl {
   OptionButton& option_;
 };
 
+class CheckWindow : public NativeControl {
+ public:
+  CheckWindow(CheckBox& model, FormWindow& form);
+  void OnCommand(WORD code) override;
+  HBRUSH OnColour(HDC dc) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  CheckBox& box_;
+};
+
+class ScrollWindow : public NativeControl {
+ public:
+  ScrollWindow(ScrollBar& model, FormWindow& form);
+  void OnScroll(WORD code) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+
+ private:
+  ScrollBar& bar_;
+};
+
 // The text is shown when the program comes to rest: what grows line by line is shown once.
 class TextBoxWindow : public NativeControl {
  public:
@@ -74,6 +101,7 @@ class TextBoxWindow : public NativeControl {
   void Flush() override;
   void OnCommand(WORD code) override;
   HBRUSH OnColour(HDC dc) override;
+  bool OnKey(WPARAM key) override;
 
  protected:
   void MirrorProperty(Property property) override;

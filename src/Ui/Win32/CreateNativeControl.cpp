@@ -13,6 +13,10 @@ std::unique_ptr<NativeControl> CreateNativeControl(Control& model, FormWindow& f
       return std::make_unique<LabelWindow>(static_cast<Captioned&>(model), form);
     case ControlKind::kOptionButton:
       return std::make_unique<OptionWindow>(static_cast<OptionButton&>(model), form);
+    case ControlKind::kCheckBox:
+      return std::make_unique<CheckWindow>(static_cast<CheckBox&>(model), form);
+    case ControlKind::kScrollBar:
+      return std::make_unique<ScrollWindow>(static_cast<ScrollBar&>(model), form);
     case ControlKind::kTextBox:
       return std::make_unique<TextBoxWindow>(static_cast<TextBox&>(model), form);
     case ControlKind::kListBox:

@@ -78,6 +78,10 @@ bool FormWindow::Route(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
       control = Of(header.hwndFrom);
       return control != nullptr && control->OnNotify(header, result);
     }
+    case WM_HSCROLL:
+      control = Of(reinterpret_cast<HWND>(l));
+      if (control != nullptr) control->OnScroll(LOWORD(w));
+      return control != nullptr;
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
       control = Of(item.hwndItem);

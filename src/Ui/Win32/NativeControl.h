@@ -40,6 +40,7 @@ class NativeControl {
   // Messages that the form's procedure routes here. A result of false leaves the message alone.
   virtual void OnCommand(WORD /*code*/) {}
   virtual bool OnNotify(NMHDR& /*header*/, LRESULT& /*result*/) { return false; }
+  virtual void OnScroll(WORD /*code*/) {}
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
   virtual void OnMeasure(MEASUREITEMSTRUCT& /*item*/) {}
   // Colours of a static or edit window; null for the usual ones.

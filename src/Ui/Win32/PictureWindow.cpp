@@ -20,7 +20,9 @@ void PictureWindow::MirrorProperty(Property) {
 }
 
 void PictureWindow::OnDraw(const DRAWITEMSTRUCT& item) {
-  FillRect(item.hDC, &item.rcItem, Owner().Background());
+  const HBRUSH brush = CreateSolidBrush(NativeColour(box_.BackColor()));
+  FillRect(item.hDC, &item.rcItem, brush);
+  DeleteObject(brush);
   if (icon_.Get() == nullptr) return;
   const int size = GetScale().Pixels(kIconSize);
   DrawIconEx(item.hDC, 0, 0, icon_.Get(), size, size, 0, nullptr, DI_NORMAL);

@@ -57,10 +57,17 @@ void TextBoxWindow::Flush() {
 }
 
 void TextBoxWindow::OnCommand(WORD code) {
+  if (code == EN_KILLFOCUS) Owner().Run(box_.on_lost_focus);
   // What the window shows of the model is no typing.
   if (code != EN_CHANGE || stale_ || box_.Locked()) return;
   const Text typed = TextOf(Handle());
   if (typed != box_.GetText()) Owner().Run([&] { box_.SetText(typed); });
+}
+
+bool TextBoxWindow::OnKey(WPARAM key) {
+  if (key != VK_RETURN || !box_.on_enter) return false;
+  Owner().Run(box_.on_enter);
+  return true;
 }
 
 HBRUSH TextBoxWindow::OnColour(HDC dc) {
