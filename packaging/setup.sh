@@ -1,0 +1,71 @@
+# shellcheck shell=bash disable=SC2034,SC2154
+# Sourced by run and test, with `me` set to the script's name and `root` to the checkout: installs
+# what is missing and builds.
+
+say() {
+  echo "$me: $*" >&2
+}
+
+die() {
+  say "$1"
+  exit "${2:-1}"
+}
+
+# What each job needs, as packages of Debian 12.
+packages_native=(g++ cmake ninja-build ccache googletest nlohmann-json3-dev libcli11-dev)
+packages_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
+packages_wine=(wine64 xvfb)
+packages_window=(libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 fonts-liberation)
+packages_checks=(python3 clang-format-14)
+
+missing_packages() {
+  local package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+      echo "$package"
+  done
+}
+
+# Runs a command with its output in a file, which is shown only if the command fails.
+quietly() { # LOG COMMAND [ARGUMENT...]
+  local log=$1 status=0
+  shift
+  mkdir -p "$(dirname "$log")"
+  "$@" >"$log" 2>&1 </dev/null || status=$?
+  [ "$status" = 0 ] || tail -n 60 "$log" >&2
+  return "$status"
+}
+
+# Installs those of the packages that are missing.
+need() { # PACKAGE...
+  command -v dpkg-query >/dev/null || {
+    say "this is no Debian system; expecting what these packages hold: $*"
+    return 0
+  }
+  local missing as_root=()
+  mapfile -t missing < <(missing_packages "$@")
+  [ ${#missing[@]} -gt 0 ] || return 0
+  if [ "$(id -u)" != 0 ]; then
+    command -v sudo >/dev/null || die "no sudo; as root: apt-get install ${missing[*]}"
+    as_root=(sudo)
+  fi
+  say "installing ${missing[*]}"
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y
+    -o DPkg::Lock::Timeout=300)
+  quietly "$root/build/apt-update.log" "${apt[@]}" update || say 'apt-get update failed; trying on'
+  quietly "$root/build/apt-install.log" "${apt[@]}" install --no-install-recommends \
+    "${missing[@]}" || die 'the packages could not be installed'
+}
+
+# Builds targets of a preset (all of them if none is named), configuring it the first time.
+build() { # PRESET [TARGET...]
+  local preset=$1
+  shift
+  local targets=()
+  [ $# = 0 ] || targets=(--target "$@")
+  say "building $preset"
+  if [ ! -e "$root/build/$preset/build.ninja" ]; then
+    (cd "$root" && quietly "build/$preset.configure.log" cmake --preset "$preset") || return 1
+  fi
+  quietly "$root/build/$preset.build.log" cmake --build "$root/build/$preset" "${targets[@]}"
+}

@@ -1,0 +1,1 @@
+#include "Platform/Win32/Names.h"

@@ -1,0 +1,1 @@
+#include "Screen/MainForm.h"
