@@ -20,8 +20,12 @@ char ToCp1252Byte(char16_t unit) {
   return '?';
 }
 
-bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+bool IsHighSurrogate(char16_t unit) {
+  return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool IsLowSurrogate(char16_t unit) {
+  return unit >= 0xDC00 && unit <= 0xDFFF;
+}
 
 // Length of the valid sequence at the head of `bytes` and its code point; 0 if there is none.
 int DecodeOne(std::string_view bytes, char32_t& point) {
@@ -98,7 +102,8 @@ std::string ToCp1252(TextView text) {
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     // A character beyond the plane is two units but one '?'.
-    const bool pair = IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
+    const bool pair =
+        IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
     bytes += ToCp1252Byte(text[i]);
     if (pair) ++i;
   }
@@ -124,7 +129,11 @@ Text FromUtf8(std::string_view bytes) {
   return text;
 }
 
-std::string ToUtf8(TextView text) { return Encode(text, LoneSurrogate::kByte); }
-std::string ToStrictUtf8(TextView text) { return Encode(text, LoneSurrogate::kReplacement); }
+std::string ToUtf8(TextView text) {
+  return Encode(text, LoneSurrogate::kByte);
+}
+std::string ToStrictUtf8(TextView text) {
+  return Encode(text, LoneSurrogate::kReplacement);
+}
 
 }  // namespace trovex

@@ -18,6 +18,8 @@ PlatformScope::PlatformScope(Platform& platform) : former_(current_platform) {
   current_platform = &platform;
 }
 
-PlatformScope::~PlatformScope() { current_platform = former_; }
+PlatformScope::~PlatformScope() {
+  current_platform = former_;
+}
 
 }  // namespace trovex

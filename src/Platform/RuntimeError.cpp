@@ -63,7 +63,9 @@ void PendingError::Set(const RuntimeError& error) {
   description = error.Description();
 }
 
-void PendingError::Clear() { *this = PendingError(); }
+void PendingError::Clear() {
+  *this = PendingError();
+}
 
 PendingError& Err() {
   static PendingError pending;

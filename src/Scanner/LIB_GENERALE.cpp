@@ -72,7 +72,9 @@ void EffacerFichierTemp() {
   if (!sFichierTemp.empty()) bEffaceFichier(sFichierTemp, false, false);
 }
 
-void SetEndOfProgram(Event end) { end_of_program = std::move(end); }
+void SetEndOfProgram(Event end) {
+  end_of_program = std::move(end);
+}
 
 void Main(Form& main_form) {
   CurrentView().SetPointer(Pointer::kHourglass);

@@ -7,6 +7,8 @@ bool CommonDialog::ShowFile(Mode which) {
   return CurrentView().ShowFileDialog(*this);
 }
 
-void CommonDialog::ShowHelp() { CurrentView().ShowHelp(*this); }
+void CommonDialog::ShowHelp() {
+  CurrentView().ShowHelp(*this);
+}
 
 }  // namespace trovex

@@ -9,10 +9,18 @@ void Control::SetName(Text name, int index) {
   index_ = index;
 }
 
-void Control::SetLeft(double left) { Move({left, place_.top, place_.width, place_.height}); }
-void Control::SetTop(double top) { Move({place_.left, top, place_.width, place_.height}); }
-void Control::SetWidth(double width) { Move({place_.left, place_.top, width, place_.height}); }
-void Control::SetHeight(double height) { Move({place_.left, place_.top, place_.width, height}); }
+void Control::SetLeft(double left) {
+  Move({left, place_.top, place_.width, place_.height});
+}
+void Control::SetTop(double top) {
+  Move({place_.left, top, place_.width, place_.height});
+}
+void Control::SetWidth(double width) {
+  Move({place_.left, place_.top, width, place_.height});
+}
+void Control::SetHeight(double height) {
+  Move({place_.left, place_.top, place_.width, height});
+}
 
 void Control::Move(const Place& place) {
   if (place == place_) return;
@@ -50,6 +58,8 @@ void Control::Notify(Property property) {
   if (View* view = AttachedView()) view->Changed(*this, property);
 }
 
-View* Control::AttachedView() const { return parent_ == nullptr ? nullptr : parent_->GetView(); }
+View* Control::AttachedView() const {
+  return parent_ == nullptr ? nullptr : parent_->GetView();
+}
 
 }  // namespace trovex

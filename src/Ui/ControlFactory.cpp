@@ -68,7 +68,8 @@ std::unique_ptr<Control> CreateControl(const ControlSpec& spec) {
   control->SetName(spec.name, spec.index);
   control->Move(spec.place);
   control->SetVisible(spec.visible);
-  if (auto* captioned = dynamic_cast<Captioned*>(control.get())) captioned->SetCaption(spec.caption);
+  if (auto* captioned = dynamic_cast<Captioned*>(control.get()))
+    captioned->SetCaption(spec.caption);
   if (auto* line = dynamic_cast<Line*>(control.get())) {
     line->SetPoints(spec.place.left, spec.place.top, spec.place.left + spec.place.width,
                     spec.place.top + spec.place.height);

@@ -7,7 +7,9 @@
 namespace trovex {
 namespace {
 
-bool IsRootPath(TextView path) { return path.size() == 3 && path.ends_with(u":\\"); }
+bool IsRootPath(TextView path) {
+  return path.size() == 3 && path.ends_with(u":\\");
+}
 
 TextView ParentOf(TextView path) {
   const std::size_t backslash = path.find_last_of(u'\\');

@@ -14,7 +14,9 @@ std::vector<Form*>& Loaded() {
 
 }  // namespace
 
-const std::vector<Form*>& LoadedForms() { return Loaded(); }
+const std::vector<Form*>& LoadedForms() {
+  return Loaded();
+}
 
 Form::Form(const FormSpec& spec)
     : Control(ControlKind::kForm), caption_(spec.caption), sizable_(spec.sizable) {
@@ -95,7 +97,9 @@ void Form::ShowModal() {
   if (Loaded() && Visible()) view_->RunModal(*this);
 }
 
-void Form::Hide() { SetVisible(false); }
+void Form::Hide() {
+  SetVisible(false);
+}
 
 void Form::Close() {
   if (on_close) return on_close();

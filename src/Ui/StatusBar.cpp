@@ -19,7 +19,9 @@ void StatusBar::AddPanel(Text key, PanelStyle style) {
   panels_.push_back({std::move(key), style, {}});
 }
 
-const Text& StatusBar::PanelText(TextView key) const { return Find(panels_, key).text; }
+const Text& StatusBar::PanelText(TextView key) const {
+  return Find(panels_, key).text;
+}
 
 void StatusBar::SetPanelText(TextView key, TextView text) {
   Find(panels_, key).text = text;

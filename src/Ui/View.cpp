@@ -14,8 +14,12 @@ View& CurrentView() {
   return *current_view;
 }
 
-ViewScope::ViewScope(View& view) : former_(current_view) { current_view = &view; }
+ViewScope::ViewScope(View& view) : former_(current_view) {
+  current_view = &view;
+}
 
-ViewScope::~ViewScope() { current_view = former_; }
+ViewScope::~ViewScope() {
+  current_view = former_;
+}
 
 }  // namespace trovex

@@ -14,15 +14,15 @@ class CommonDialog;
 
 // What of a control has changed.
 enum class Property {
-  kText,        // text, caption or a status panel
+  kText,  // text, caption or a status panel
   kVisible,
   kEnabled,
-  kPlace,       // left, top, width or height
+  kPlace,  // left, top, width or height
   kColour,
   kPicture,
-  kList,        // entries of a list, rows of a grid
-  kSelection,   // ListIndex, current cell, tab, value of an option
-  kCell,        // the text of a grid's current cell
+  kList,       // entries of a list, rows of a grid
+  kSelection,  // ListIndex, current cell, tab, value of an option
+  kCell,       // the text of a grid's current cell
   kOther,
 };
 

@@ -11,8 +11,8 @@ constexpr std::uint16_t kTargetOs2 = 1;  // whose resource table looks otherwise
 
 constexpr std::uint16_t kNumbered = 0x8000;  // marks a type's number instead of its name
 constexpr std::uint16_t kVersionType = 16;
-constexpr std::size_t kTypeSize = 8;            // type, count, reserved
-constexpr std::size_t kResourceSize = 12;       // offset, length, flags, name, reserved
+constexpr std::size_t kTypeSize = 8;       // type, count, reserved
+constexpr std::size_t kResourceSize = 12;  // offset, length, flags, name, reserved
 
 constexpr unsigned kMaxShift = 15;
 constexpr int kMaxTypes = 1024;

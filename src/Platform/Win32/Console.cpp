@@ -29,6 +29,8 @@ void PrepareConsole() {
   SetConsoleOutputCP(CP_UTF8);
 }
 
-bool ErrorIsTerminal() { return _isatty(_fileno(stderr)) != 0; }
+bool ErrorIsTerminal() {
+  return _isatty(_fileno(stderr)) != 0;
+}
 
 }  // namespace trovex

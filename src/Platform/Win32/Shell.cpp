@@ -64,9 +64,8 @@ void Win32Platform::StartProgram(const Text& command_line, int mode) {
     const DWORD code = ::GetLastError();
     const bool missing = code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND;
     // A program that asks for more rights starts only through the shell.
-    if (code == kElevationRequired &&
-        ResultOf(ShellExecuteW(nullptr, nullptr, Wide(command_line), nullptr, nullptr, mode)) >
-            32) {
+    if (code == kElevationRequired && ResultOf(ShellExecuteW(nullptr, nullptr, Wide(command_line),
+                                                             nullptr, nullptr, mode)) > 32) {
       return;
     }
     throw RuntimeError(missing ? ErrorNumber::kFileNotFound : ErrorNumber::kInvalidCall);

@@ -28,7 +28,8 @@ class HeadlessView : public View {
   // What a user does in the next modal form; it must end by hiding or unloading the form.
   void AnswerForm(std::function<void(Form&)> user) { form_answers_.push_back(std::move(user)); }
   std::size_t UnusedAnswers() const {
-    return question_answers_.size() + box_answers_.size() + file_answers_.size() + form_answers_.size();
+    return question_answers_.size() + box_answers_.size() + file_answers_.size() +
+           form_answers_.size();
   }
 
   // What was shown, in order.
