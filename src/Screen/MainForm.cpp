@@ -34,6 +34,9 @@ MainForm::MainForm()
   for (int i = 0; i < kTableCount; ++i) {
     grids_[static_cast<std::size_t>(i)] = &Get<Grid>(u"GridLogiciel", i);
   }
+  for (int i = 0; i <= 6; ++i) {
+    text_info_[static_cast<std::size_t>(i)] = &Get<TextBox>(u"TextInfo", i);
+  }
   DressControls();
   BindEvents();
   RegisterTables(grids_);

@@ -26,7 +26,7 @@ class MainForm : public Form {
   void InitTitresTableaux();
 
   Grid& GridLogiciel(int index) { return *grids_[static_cast<std::size_t>(index)]; }
-  TextBox& TextInfo(int index) { return Get<TextBox>(u"TextInfo", index); }
+  TextBox& TextInfo(int index) { return *text_info_[static_cast<std::size_t>(index)]; }
   Label& LabelInfo(int index) { return Get<Label>(u"LabelInfo", index); }
   Shape& ShapeOmbre(int index) { return Get<Shape>(u"ShapeOmbre", index); }
 
@@ -54,6 +54,7 @@ class MainForm : public Form {
   void BindEvents();
 
   std::array<Grid*, kTableCount> grids_;
+  std::array<TextBox*, 7> text_info_;
 };
 
 }  // namespace trovex
