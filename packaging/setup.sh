@@ -14,8 +14,9 @@ die() {
 # What each job needs, as packages of Debian 12.
 packages_native=(g++ cmake ninja-build ccache googletest nlohmann-json3-dev libcli11-dev)
 packages_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
-packages_wine=(wine64 xvfb)
-packages_window=(libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 fonts-liberation)
+# Of what Wine only recommends: the libraries of its windows, and letters to write in them.
+packages_wine=(wine64 xvfb libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 libxcomposite1
+  libxinerama1 fonts-liberation)
 packages_checks=(python3 clang-format-14)
 
 missing_packages() {
