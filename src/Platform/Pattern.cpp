@@ -1,17 +1,34 @@
 #include "Platform/Pattern.h"
 
+#include <algorithm>
+
 namespace trovex {
 namespace {
 
+bool EqualsUnit(char16_t unit, char16_t wanted) {
+  return wanted == u'?' || unit == wanted || ToUpper(unit) == ToUpper(wanted);
+}
+
+// What stands behind the last * has one place where it can match, the name's end: most names fail
+// there, at the first look.
+bool EndMatches(TextView name, TextView pattern) {
+  const std::size_t star = pattern.rfind(u'*');
+  if (star == TextView::npos) return name.size() == pattern.size();
+  const TextView end = pattern.substr(star + 1);
+  if (name.size() < end.size()) return false;
+  return std::equal(end.rbegin(), end.rend(), name.rbegin(),
+                    [](char16_t wanted, char16_t unit) { return EqualsUnit(unit, wanted); });
+}
+
 bool Matches(TextView name, TextView pattern) {
+  if (!EndMatches(name, pattern)) return false;
   std::size_t n = 0, p = 0;
   std::size_t star = TextView::npos, resume = 0;
   while (n < name.size()) {
     if (p < pattern.size() && pattern[p] == u'*') {
       star = p++;
       resume = n;
-    } else if (p < pattern.size() &&
-               (pattern[p] == u'?' || ToUpper(pattern[p]) == ToUpper(name[n]))) {
+    } else if (p < pattern.size() && EqualsUnit(name[n], pattern[p])) {
       ++p;
       ++n;
     } else if (star != TextView::npos) {
@@ -34,6 +51,9 @@ bool MatchesPattern(TextView name, TextView pattern) {
          Matches(name, pattern.substr(0, pattern.size() - 2));
 }
 
-bool HasWildcard(TextView pattern) { return pattern.find_first_of(u"*?") != TextView::npos; }
+bool HasWildcard(TextView pattern) {
+  return std::any_of(pattern.begin(), pattern.end(),
+                     [](char16_t unit) { return unit == u'*' || unit == u'?'; });
+}
 
 }  // namespace trovex

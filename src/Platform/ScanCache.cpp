@@ -10,6 +10,8 @@ namespace trovex {
 namespace {
 
 constexpr std::size_t kListings = 8;         // directories kept beside those being walked
+constexpr std::size_t kUsualEntries = 16;    // of a directory, and the characters of their names
+constexpr std::size_t kUsualNames = 192;
 constexpr std::size_t kRecords = 8;          // version records kept
 constexpr std::size_t kProfiles = 32;        // profile answers kept
 constexpr std::size_t kSharedFiles = 16;     // files kept open for a directory
@@ -48,12 +50,12 @@ class ScanCache::Listing {
     const FindHandle handle = platform.FindFirstFile(directory_ + u"*.*", data);
     if (handle == FindHandle::kInvalid) return;
     readable_ = true;
+    names_.reserve(kUsualNames);
+    entries_.reserve(kUsualEntries);
     do {
       Add(data);
     } while (platform.FindNextFile(handle, data));
     platform.FindClose(handle);
-    names_.shrink_to_fit();
-    entries_.shrink_to_fit();
     Sort();
   }
 
@@ -108,14 +110,18 @@ class ScanCache::Listing {
 
 // A search within a listing, and where it stands.
 struct ScanCache::Search {
+  Search(std::shared_ptr<const Listing> entries, TextView wanted)
+      : listing(std::move(entries)), pattern(wanted), all(MatchesAll(wanted)) {}
+
   std::shared_ptr<const Listing> listing;
   Text pattern;
+  bool all;
   std::size_t next = 0;
 
   bool Advance(FindData& data) {
     for (; next < listing->Size(); ++next) {
       const TextView name = listing->Name(next);
-      if (!MatchesAll(pattern) && !MatchesPattern(name, pattern)) continue;
+      if (!all && !MatchesPattern(name, pattern)) continue;
       data.name = name;
       data.attributes = listing->Attributes(next++);
       return true;
@@ -218,7 +224,7 @@ FindHandle ScanCache::FindFirstFile(const Text& pattern, FindData& data) {
   if (directory.empty() || last.empty()) return Target().FindFirstFile(pattern, data);
   std::shared_ptr<const Listing> listing = ListingOf(directory);
   if (!listing->Readable()) return FindHandle::kInvalid;
-  if (HasWildcard(last)) return Begin({std::move(listing), Text(last)}, data);
+  if (HasWildcard(last)) return Begin(Search(std::move(listing), last), data);
   const std::size_t found = listing->Find(last);
   if (found == listing->Size()) return FindHandle::kInvalid;
   data = {listing->Attributes(found), Text(listing->Name(found))};

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <string>
 
 namespace trovex {
@@ -82,7 +83,6 @@ struct CaseTables {
     for (unsigned unit = 0; unit < upper.size(); ++unit) {
       upper[unit] = lower[unit] = static_cast<char16_t>(unit);
     }
-    for (char16_t unit = u'A'; unit <= u'Z'; ++unit) Add(unit, static_cast<char16_t>(unit + 32));
     for (const CaseRange& range : kCaseRanges) {
       for (int unit = range.first; unit <= range.last; unit += range.stride) {
         Add(static_cast<char16_t>(unit), static_cast<char16_t>(unit + range.delta));
@@ -99,12 +99,6 @@ struct CaseTables {
 const CaseTables& Tables() {
   static const CaseTables tables;
   return tables;
-}
-
-Text Mapped(TextView text, const CaseTable& table) {
-  Text result(text);
-  for (char16_t& unit : result) unit = table[unit];
-  return result;
 }
 
 bool EndsWord(char16_t unit) {
@@ -147,25 +141,28 @@ double DecimalValue(const std::string& digits) {
 
 }  // namespace
 
-char16_t ToUpper(char16_t unit) {
+char16_t ToUpperBeyondAscii(char16_t unit) {
   return Tables().upper[unit];
 }
-char16_t ToLower(char16_t unit) {
+char16_t ToLowerBeyondAscii(char16_t unit) {
   return Tables().lower[unit];
 }
 Text ToUpper(TextView text) {
-  return Mapped(text, Tables().upper);
+  Text result(text);
+  for (char16_t& unit : result) unit = ToUpper(unit);
+  return result;
 }
 Text ToLower(TextView text) {
-  return Mapped(text, Tables().lower);
+  Text result(text);
+  for (char16_t& unit : result) unit = ToLower(unit);
+  return result;
 }
 
 Text ProperCase(TextView text) {
   Text result(text);
-  const CaseTables& tables = Tables();
   bool at_start = true;
   for (char16_t& unit : result) {
-    unit = at_start ? tables.upper[unit] : tables.lower[unit];
+    unit = at_start ? ToUpper(unit) : ToLower(unit);
     at_start = EndsWord(unit);
   }
   return result;
@@ -183,9 +180,11 @@ Text Trim(TextView text) {
 
 bool EqualsNoCase(TextView a, TextView b) {
   if (a.size() != b.size()) return false;
-  const CaseTable& upper = Tables().upper;
-  return std::equal(a.begin(), a.end(), b.begin(),
-                    [&](char16_t x, char16_t y) { return upper[x] == upper[y]; });
+  if (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0) return true;
+  // From the end: most texts compared are paths, and those share their beginnings.
+  return std::equal(a.rbegin(), a.rend(), b.rbegin(), [](char16_t x, char16_t y) {
+    return x == y || ToUpper(x) == ToUpper(y);
+  });
 }
 
 double Val(TextView text) {

@@ -12,8 +12,16 @@ using TextView = std::u16string_view;
 // Case mapping is one code unit to one code unit, the same on every system. Only pairs that map
 // into each other both ways take part, so that upper(lower(x)) always compares equal to upper(x):
 // a name shown in proper case still finds its file. Everything else maps to itself.
-char16_t ToUpper(char16_t unit);
-char16_t ToLower(char16_t unit);
+char16_t ToUpperBeyondAscii(char16_t unit);
+char16_t ToLowerBeyondAscii(char16_t unit);
+inline char16_t ToUpper(char16_t unit) {
+  if (unit >= 0x80) return ToUpperBeyondAscii(unit);
+  return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - (u'a' - u'A')) : unit;
+}
+inline char16_t ToLower(char16_t unit) {
+  if (unit >= 0x80) return ToLowerBeyondAscii(unit);
+  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
 Text ToUpper(TextView text);
 Text ToLower(TextView text);
 

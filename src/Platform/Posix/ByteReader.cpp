@@ -24,11 +24,23 @@ bool ByteReader::InWindow(std::uint64_t offset, std::size_t size) const {
   return offset >= start_ && offset - start_ <= length_ && size <= length_ - (offset - start_);
 }
 
+// Asks again only where less than `least` bytes came.
+std::size_t ByteReader::Read(std::uint64_t offset, std::size_t least, char* buffer,
+                             std::size_t size) {
+  std::size_t done = 0;
+  while (done < least) {
+    const std::size_t got = source_.ReadAt(offset + done, buffer + done, size - done);
+    if (got == 0) break;
+    done += got;
+  }
+  return done;
+}
+
 std::optional<ByteView> ByteReader::At(std::uint64_t offset, std::size_t size) {
   if (offset > kMaxOffset || size > kWindow) return std::nullopt;
   if (!InWindow(offset, size)) {
     start_ = offset;
-    length_ = source_.ReadAt(offset, window_, kWindow);
+    length_ = Read(offset, size, window_, kWindow);
     if (length_ < size) return std::nullopt;
   }
   return ByteView(std::string_view(window_ + (offset - start_), size));
@@ -42,7 +54,7 @@ bool ByteReader::Copy(std::uint64_t offset, std::size_t size, std::string& bytes
     return true;
   }
   bytes.resize(size);
-  if (source_.ReadAt(offset, bytes.data(), size) == size) return true;
+  if (Read(offset, size, bytes.data(), size) == size) return true;
   bytes.clear();
   return false;
 }

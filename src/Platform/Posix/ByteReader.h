@@ -13,7 +13,7 @@ namespace trovex::posix {
 class ByteSource {
  public:
   virtual ~ByteSource() = default;
-  // Up to `size` bytes from `offset` on; fewer where the source ends or cannot be read.
+  // Up to `size` bytes from `offset` on, none only where the source ends or cannot be read.
   virtual std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) = 0;
 };
 
@@ -45,6 +45,7 @@ class ByteReader {
   bool Copy(std::uint64_t offset, std::size_t size, std::string& bytes);
 
  private:
+  std::size_t Read(std::uint64_t offset, std::size_t least, char* buffer, std::size_t size);
   bool InWindow(std::uint64_t offset, std::size_t size) const;
 
   ByteSource& source_;

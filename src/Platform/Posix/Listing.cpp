@@ -16,6 +16,10 @@ namespace {
 
 constexpr char16_t kShownBackslash = 0xF05C;
 
+// Of a directory; larger ones grow.
+constexpr std::size_t kUsualEntries = 16;
+constexpr std::size_t kUsualNames = 192;  // characters
+
 // Entries of an open directory, in the system's own order. The plain call under readdir: a
 // catalogue lists every directory of a disc, and the stream around it would double the calls.
 class EntryReader {
@@ -122,6 +126,7 @@ std::shared_ptr<const Listing> Listing::Read(const std::string& host) {
   const FileDescriptor directory = OpenDirectory(host);
   if (!directory.IsOpen()) return nullptr;
   auto listing = std::make_shared<Listing>();
+  listing->Reserve();
   EntryReader entries(directory.Get());
   while (const dirent64* entry = entries.Next()) {
     if (!IsDots(entry->d_name)) listing->Add(entry->d_name, KindOf(directory.Get(), *entry));
@@ -132,13 +137,20 @@ std::shared_ptr<const Listing> Listing::Read(const std::string& host) {
   return listing;
 }
 
+void Listing::Reserve() {
+  records_.reserve(kUsualEntries);
+  names_.reserve(kUsualNames);
+  host_names_.reserve(kUsualNames);
+}
+
 void Listing::Add(std::string_view host_name, EntryKind kind) {
   Record record;
   record.text = static_cast<std::uint32_t>(names_.size());
   record.host = static_cast<std::uint32_t>(host_names_.size());
   record.kind = kind;
   if (IsPlain(host_name)) {
-    names_.append(host_name.begin(), host_name.end());
+    names_.resize(names_.size() + host_name.size());
+    std::copy(host_name.begin(), host_name.end(), names_.begin() + record.text);
   } else {
     names_ += ShownName(host_name);
   }

@@ -49,6 +49,7 @@ class Listing {
     EntryKind kind;
   };
 
+  void Reserve();
   void Add(std::string_view host_name, EntryKind kind);
   void Arrange();
   void Sort();

@@ -1,5 +1,6 @@
 #include "Platform/Posix/Names.h"
 
+#include <algorithm>
 #include <cerrno>
 
 #include "Platform/Posix/HostCalls.h"
@@ -19,6 +20,13 @@ std::size_t ParentEnd(TextView name, std::size_t end) {
 // Start of the level below the whole name that ends at `end`.
 std::size_t ChildStart(std::size_t end) {
   return end == kRootLength ? end : end + 1;
+}
+
+// True for the last level of a name that is whole if what stands before it is.
+bool IsPlainLevel(TextView level) {
+  return !level.empty() && level[0] != u'.' &&
+         std::none_of(level.begin(), level.end(),
+                      [](char16_t unit) { return unit == u'\\' || unit == u'/' || unit == u'\0'; });
 }
 
 std::size_t LevelEnd(TextView name, std::size_t start) {
@@ -70,6 +78,7 @@ void DirectoryHints::Shrink() {
 // --- Names ------------------------------------------------------------------------------------
 
 std::optional<Place> Names::Find(const Text& name) {
+  if (std::optional<Place> place = FindBeside(name)) return place;
   const std::optional<Text> full = drives_.FullName(name);
   if (!full) {
     errno = name.empty() ? ENOENT : ENOTDIR;
@@ -81,6 +90,21 @@ std::optional<Place> Names::Find(const Text& name) {
   if (place || !hint_failed_) return place;
   Forget();
   return Walk({*full, upper});
+}
+
+// The short way to another name in the directory of the last one. Nothing where it does not lead
+// to a place: the long way tells why.
+std::optional<Place> Names::FindBeside(TextView name) {
+  if (last_directory_.empty() || !name.starts_with(last_directory_)) return std::nullopt;
+  const TextView level = name.substr(last_directory_.size());
+  if (!IsPlainLevel(level)) return std::nullopt;
+  const Text upper = ToUpper(level);
+  return Look(hints_.Latest(), {level, upper});
+}
+
+void Names::Forget() {
+  hints_.Clear();
+  last_directory_.clear();
 }
 
 std::shared_ptr<const Listing> Names::List(const Text& directory, bool& root) {
@@ -111,11 +135,13 @@ std::optional<Place> Names::Walk(Spelling name) {
   KnownDirectory* directory = Enter(name.Head(end));
   if (directory == nullptr) return std::nullopt;
   const std::size_t start = ChildStart(end);
+  last_directory_ = name.given.substr(0, start);
   return Look(*directory, {name.given.substr(start), name.upper.substr(start)});
 }
 
 // Goes down from the deepest directory that is held.
 KnownDirectory* Names::Enter(Spelling directory) {
+  last_directory_.clear();
   std::size_t end = directory.upper.size();
   KnownDirectory* known = hints_.Find(directory.upper);
   while (known == nullptr && end > kRootLength) {
@@ -168,7 +194,11 @@ std::optional<Place> Names::Look(KnownDirectory& directory, Spelling level) {
 }
 
 Place Names::PlaceOf(const KnownDirectory& directory, const DirectoryEntry& entry) const {
-  return {entry.kind, false, Text(entry.name), directory.host + '/' + entry.host};
+  const std::string_view name = entry.host;
+  std::string host;
+  host.reserve(directory.host.size() + 1 + name.size());
+  host.append(directory.host).append(1, '/').append(name);
+  return {entry.kind, false, Text(entry.name), std::move(host)};
 }
 
 std::shared_ptr<const Listing> Names::Read(KnownDirectory& directory) {

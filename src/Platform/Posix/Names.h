@@ -36,6 +36,8 @@ class DirectoryHints {
   // Null where the directory is not held. The pointer is good until the next Put or Clear.
   KnownDirectory* Find(TextView upper_name);
   KnownDirectory* Put(TextView upper_name, std::string host);
+  // The one that Find or Put gave last; it is held until the next of these calls, or Clear.
+  KnownDirectory& Latest() { return directories_.front(); }
   // Replaces the listing of a directory that is held, and drops others where they get too many.
   void SetListing(KnownDirectory& directory, std::shared_ptr<const Listing> listing);
   void Clear();
@@ -60,7 +62,7 @@ class Names {
   // The name by which the program reaches `path`, an absolute host path, on a drive whose root is
   // in front of it. Levels that are missing keep their spelling.
   Text NameOfHost(const Drive& drive, const std::string& path);
-  void Forget() { hints_.Clear(); }
+  void Forget();
 
  private:
   // A whole name in both spellings; positions are the same.
@@ -69,6 +71,7 @@ class Names {
     Spelling Head(std::size_t end) const { return {given.substr(0, end), upper.substr(0, end)}; }
   };
 
+  std::optional<Place> FindBeside(TextView name);
   std::optional<Place> Walk(Spelling name);
   std::shared_ptr<const Listing> ListOnce(Spelling directory);
   KnownDirectory* Enter(Spelling directory);
@@ -78,6 +81,9 @@ class Names {
 
   const Drives& drives_;
   DirectoryHints hints_;
+  // The directory of the name found last, as that name spelled it, with its final backslash; empty
+  // where it is not held any more. What a scan asks for mostly lies there.
+  Text last_directory_;
   // True after a directory that was reached was no longer there: a hint led astray.
   bool hint_failed_ = false;
 };

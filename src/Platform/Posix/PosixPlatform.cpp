@@ -54,15 +54,11 @@ class FileSource : public ByteSource {
   explicit FileSource(FileDescriptor file) : file_(std::move(file)) {}
 
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
-    std::size_t done = 0;
-    while (done < size) {
-      const ssize_t got =
-          pread(file_.Get(), buffer + done, size - done, static_cast<off_t>(offset + done));
-      if (got < 0 && errno == EINTR) continue;
-      if (got <= 0) break;
-      done += static_cast<std::size_t>(got);
-    }
-    return done;
+    ssize_t got = 0;
+    do {
+      got = pread(file_.Get(), buffer, size, static_cast<off_t>(offset));
+    } while (got < 0 && errno == EINTR);
+    return got < 0 ? 0 : static_cast<std::size_t>(got);
   }
 
  private:
