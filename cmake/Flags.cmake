@@ -9,7 +9,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 if(TROVEX_SANITIZE)
   target_compile_options(trovex_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+    # GCC 12 takes what the sanitizers insert for uses of uninitialized values.
+    -Wno-maybe-uninitialized)
   target_link_options(trovex_flags INTERFACE -fsanitize=address,undefined)
 endif()
 if(WIN32)
