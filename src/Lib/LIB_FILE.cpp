@@ -78,7 +78,8 @@ Text sRepertoireSysteme() {
 }
 
 bool bFichierExiste(TextView sNom) {
-  const Text sCherche = sEnleveBackslash(Trimmed(sNom));
+  TextView sCherche = Trimmed(sNom);
+  if (sCherche.ends_with(u'\\')) sCherche.remove_suffix(1);
   return !sCherche.empty() && bExisteAttribut(sCherche, 0);
 }
 

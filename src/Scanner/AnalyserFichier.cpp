@@ -20,15 +20,15 @@ constexpr int kColVersion = 3;
 
 constexpr std::size_t kLongestDescription = 50;  // that stands without dots
 constexpr std::size_t kCut = 95;                 // characters of a description kept
-constexpr std::size_t kDecoration = 10;          // characters in a row that make a line worthless
+constexpr int kDecoration = 10;                  // characters in a row that make a line worthless
 
 // Tools of installers, which have no row in any table.
 constexpr TextView kTools[] = {u"_ISDEL.EXE", u"_ISETUP.EXE", u"_MSSETUP.EXE", u"_MSTEST.EXE",
                                u"EXPAND.EXE"};
 
 bool IsTool(const Text& sFichier) {
-  const Text sMajuscules = ToUpper(sFichier);
-  return std::find(std::begin(kTools), std::end(kTools), sMajuscules) != std::end(kTools);
+  return std::any_of(std::begin(kTools), std::end(kTools),
+                     [&](TextView tool) { return EqualsNoCase(sFichier, tool); });
 }
 
 // The shortened description: from 51 characters on it gets its dots, cut or not.
@@ -60,7 +60,12 @@ class Analysis {
  private:
   const Text& Current() const { return grid_.GetText(); }
   void Put(TextView sTexte) { grid_.SetText(sTexte); }
-  bool Exists(TextView sNom) const { return bFichierExiste(D_ + Text(sNom)); }
+  Text Beside(TextView sNom) const {
+    Text sFile;
+    sFile.reserve(D_.size() + sNom.size());
+    return sFile.append(D_).append(sNom);
+  }
+  bool Exists(TextView sNom) const { return bFichierExiste(Beside(sNom)); }
   bool IsArchive() const { return bEstExtension(sFichier_, u"zip"); }
 
   void PlaceRow() {
@@ -84,7 +89,7 @@ class Analysis {
       // SETUP.LST is absent here, so this never fills the text; SETUP.INI has its turn later.
       PutIniIfEmpty(u"Startup", u"AppName", u"SETUP.LST");
     } else if (Exists(u"INSTALL.INF")) {
-      if (Current().empty()) Put(sLitIni(u"INSTALL", u"APPNAME", {}, D_ + u"INSTALL.INF"));
+      if (Current().empty()) Put(sLitIni(u"INSTALL", u"APPNAME", {}, Beside(u"INSTALL.INF")));
     }
   }
 
@@ -96,7 +101,7 @@ class Analysis {
   }
 
   void PutIniIfEmpty(const Text& sSection, const Text& sCle, TextView sNom) {
-    if (Current().empty()) Put(Trimmed(sLitIni(sSection, sCle, {}, D_ + Text(sNom))));
+    if (Current().empty()) Put(Trimmed(sLitIni(sSection, sCle, {}, Beside(sNom))));
   }
 
   // --- Text files: one branch in each pass, by which file exists ---
@@ -110,7 +115,7 @@ class Analysis {
       PutLines(u"readme.txt", kCut, kCut);
     } else if (!IsArchive()) {
       // Always the first file of the directory, whichever is being analysed.
-      Put(vNomProduit(D_ + Lib_Form().ListeFichier().List(0)));
+      Put(vNomProduit(Beside(Lib_Form().ListeFichier().List(0))));
     }
   }
 
@@ -118,7 +123,7 @@ class Analysis {
     if (Exists(u"file_id.diz")) {
       PutLines(u"file_id.diz", kCut, kLongestLine);
     } else if (Exists(u"SETUP.INI")) {
-      Put(Trimmed(sLitIni(u"Startup", u"AppName", {}, D_ + u"SETUP.INI")));
+      Put(Trimmed(sLitIni(u"Startup", u"AppName", {}, Beside(u"SETUP.INI"))));
     } else {
       for (const TextView sNom : {u"lisezmoi.txt", u"readme.txt", u"INSTALL.TXT"}) {
         if (Exists(sNom)) return PutLines(sNom, kCut, kCut);
@@ -129,7 +134,7 @@ class Analysis {
   // The first line, or where the line check leaves nothing of it the second, each cut to so many
   // characters.
   void PutLines(TextView sNom, std::size_t iPremiere, std::size_t iDeuxieme) {
-    const Text sFile = D_ + Text(sNom);
+    const Text sFile = Beside(sNom);
     PutLine(sPremiereLigne(sFile, iPremiere));
     CheckLine();
     if (Current().empty()) PutLine(sDeuxiemeLigne(sFile, iDeuxieme));
@@ -141,7 +146,8 @@ class Analysis {
   void CheckLine() {
     grid_.SetCol(kColDescription);
     for (const char16_t sign : {u'*', u'#', u'-', u'=', u'_'}) {
-      if (Current().find(Text(kDecoration, sign)) != Text::npos) Put({});
+      const Text& line = Current();
+      if (std::search_n(line.begin(), line.end(), kDecoration, sign) != line.end()) Put({});
     }
   }
 
@@ -175,7 +181,7 @@ class Analysis {
   void FillVersion() {
     grid_.SetCol(kColVersion);
     if (!IsBlankOrZero() || !Exists(u"logiciel.txt")) return;
-    const Text sLigne = sDeuxiemeLigne(D_ + u"logiciel.txt");
+    const Text sLigne = sDeuxiemeLigne(Beside(u"logiciel.txt"));
     Put(sDroiteDe(sDroiteDe(sLigne, u":"), u" "));
   }
 

@@ -41,7 +41,8 @@ Text vNomProduit(const Text& sFile) {
   constexpr std::size_t kOffset = 12;  // the key, its NUL and no padding
   if (sFile.empty()) return {};
   try {
-    const auto value = BehindKey(ReadVersionRecord(sFile), "ProductName", kOffset);
+    const std::string record = ReadVersionRecord(sFile);
+    const auto value = BehindKey(record, "ProductName", kOffset);
     if (value) return FromCp1252(*value);
   } catch (const RuntimeError&) {
     // The text held so far.

@@ -12,10 +12,10 @@ std::string ReadVersionRecord(const Text& sFichier) {
   return record;
 }
 
-std::optional<std::string> BehindKey(const std::string& record, const std::string& key,
-                                     std::size_t offset) {
+std::optional<std::string_view> BehindKey(std::string_view record, std::string_view key,
+                                          std::size_t offset) {
   const std::size_t found = record.find(key);
-  if (found == std::string::npos) return std::nullopt;
+  if (found == std::string_view::npos) return std::nullopt;
   return record.substr(std::min(found + offset, record.size()));
 }
 

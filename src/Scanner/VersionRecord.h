@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "Platform/Text.h"
 
@@ -12,8 +13,8 @@ namespace trovex {
 std::string ReadVersionRecord(const Text& sFichier);
 
 // All that stands in the record from `offset` characters behind the start of the first occurrence
-// of `key` (exact in case); nothing where the key does not occur.
-std::optional<std::string> BehindKey(const std::string& record, const std::string& key,
-                                     std::size_t offset);
+// of `key` (exact in case); nothing where the key does not occur. A part of `record`.
+std::optional<std::string_view> BehindKey(std::string_view record, std::string_view key,
+                                          std::size_t offset);
 
 }  // namespace trovex

@@ -14,8 +14,9 @@ constexpr std::size_t kPatternLength = 4;  // "\*.*"
 std::array<Grid*, kTableCount> tables_in_use = {};
 
 Table TableOf(const Text& sFichier) {
-  const Text sMajuscules = ToUpper(sFichier);
-  if (sMajuscules == u"SETUP.EXE" || sMajuscules == u"INSTALL.EXE") return Table::kInstallation;
+  const bool installs =
+      EqualsNoCase(sFichier, u"SETUP.EXE") || EqualsNoCase(sFichier, u"INSTALL.EXE");
+  if (installs) return Table::kInstallation;
   return bEstExtension(sFichier, u"zip") ? Table::kArchives : Table::kExecutables;
 }
 
@@ -66,8 +67,7 @@ void ExplorerRepertoire(const Text& sPath, bool bListerDabord, Control* ctlRafra
 void ClasserFichiers(const Text& sPath) {
   if (Trimmed(sPath).empty()) return;
   FileListBox& liste = Lib_Form().ListeFichier();
-  liste.SetPath(sPath);
-  liste.SetPattern(u"*.exe;*.zip");
+  liste.Show(sPath, u"*.exe;*.zip");
   for (int i = 0; i < liste.ListCount(); ++i) {
     const Text sFichier = Trim(liste.List(i));
     if (sFichier.empty()) continue;

@@ -82,8 +82,11 @@ Text sFormatTaille(std::int64_t iTaille) {
 }
 
 Text sFormatDate(const LocalTime& date) {
-  return Padded(date.day, 2) + u"/" + Padded(date.month, 2) + u"/" + Padded(date.year, 4) + u" " +
-         Padded(date.hour, 2) + u":" + Padded(date.minute, 2) + u":" + Padded(date.second, 2);
+  Text text;
+  text.reserve(kDateLength + 1 + kTimeLength);
+  text.append(Padded(date.day, 2)).append(u"/").append(Padded(date.month, 2)).append(u"/");
+  text.append(Padded(date.year, 4)).append(u" ").append(Padded(date.hour, 2)).append(u":");
+  return text.append(Padded(date.minute, 2)).append(u":").append(Padded(date.second, 2));
 }
 
 }  // namespace trovex

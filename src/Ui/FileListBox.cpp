@@ -23,15 +23,22 @@ std::vector<TextView> Split(TextView patterns) {
 
 void FileListBox::SetPath(TextView path) {
   const Text directory = WithoutBackslash(path);
-  Read(directory);
+  Read(directory, pattern_);
   path_ = directory;
   Notify(Property::kList);
 }
 
 void FileListBox::SetPattern(TextView pattern) {
   pattern_ = pattern;
-  patterns_ = Split(pattern_);
-  if (!path_.empty()) Read(path_);
+  if (!path_.empty()) Read(path_, pattern_);
+  Notify(Property::kList);
+}
+
+void FileListBox::Show(TextView path, TextView pattern) {
+  Text directory = WithoutBackslash(path);
+  Read(directory, pattern);
+  path_ = std::move(directory);
+  pattern_ = pattern;
   Notify(Property::kList);
 }
 
@@ -40,18 +47,21 @@ const Text& FileListBox::List(int index) const {
   return index >= 0 && index < ListCount() ? names_[static_cast<std::size_t>(index)] : none;
 }
 
-bool FileListBox::Lists(TextView name, std::uint32_t attributes) const {
+bool FileListBox::Takes(std::uint32_t attributes) const {
   if ((attributes & kAttributeDirectory) != 0) return false;
   if ((attributes & kAttributeHidden) != 0 && !hidden_) return false;
-  if ((attributes & kAttributeSystem) != 0 && !system_) return false;
-  return std::any_of(patterns_.begin(), patterns_.end(),
-                     [&](TextView pattern) { return MatchesPattern(name, pattern); });
+  return (attributes & kAttributeSystem) == 0 || system_;
 }
 
-void FileListBox::Read(const Text& path) {
+void FileListBox::Read(const Text& path, TextView pattern) {
+  const std::vector<TextView> patterns = Split(pattern);
+  const auto matches = [&](TextView name) {
+    return std::any_of(patterns.begin(), patterns.end(),
+                       [&](TextView one) { return MatchesPattern(name, one); });
+  };
   std::vector<Text> names;
   const bool found = ReadDirectory(path, [&](const FindData& entry) {
-    if (Lists(entry.name, entry.attributes)) names.push_back(entry.name);
+    if (Takes(entry.attributes) && matches(entry.name)) names.push_back(entry.name);
   });
   if (!found) throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
   if (!std::is_sorted(names.begin(), names.end(), ListOrder)) {

@@ -22,6 +22,8 @@ class FileListBox : public Control {
   // Setting it reads the directory again, if a path was set.
   const Text& Pattern() const { return pattern_; }
   void SetPattern(TextView pattern);
+  // Sets both with one reading; raises as SetPath, and keeps both former ones then.
+  void Show(TextView path, TextView pattern);
 
   void SetHidden(bool hidden) { hidden_ = hidden; }
   void SetSystem(bool system) { system_ = system; }
@@ -31,12 +33,11 @@ class FileListBox : public Control {
   const Text& List(int index) const;
 
  private:
-  void Read(const Text& path);
-  bool Lists(TextView name, std::uint32_t attributes) const;
+  void Read(const Text& path, TextView pattern);
+  bool Takes(std::uint32_t attributes) const;
 
   Text path_;
   Text pattern_ = u"*.*";
-  std::vector<TextView> patterns_ = {u"*.*"};  // views into pattern_
   bool hidden_ = false;
   bool system_ = false;
   std::vector<Text> names_;

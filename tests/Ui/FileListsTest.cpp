@@ -83,6 +83,17 @@ TEST_F(FileListBoxTest, HiddenFilesTakePartIfSwitchedOn) {
   EXPECT_THAT(Entries(list_), ElementsAre(u".CACHE.EXE", u"JEU.EXE"));
 }
 
+// Counts the directories that are read.
+class CountingPlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
+    ++searches;
+    return ForwardingPlatform::FindFirstFile(pattern, data);
+  }
+  int searches = 0;
+};
+
 // One search, with attributes that no test can set on every system.
 class SystemFilePlatform : public ForwardingPlatform {
  public:
@@ -134,6 +145,27 @@ TEST_F(FileListBoxTest, ThePatternReadsTheDirectoryAgain) {
   disc_.File("B.EXE");
   list_.SetPattern(u"*.exe");
   EXPECT_THAT(Entries(list_), ElementsAre(u"A.EXE", u"B.EXE"));
+}
+
+TEST_F(FileListBoxTest, ShowSetsPathAndPatternWithOneReading) {
+  disc_.File("JEUX/A.EXE");
+  disc_.File("JEUX/B.TXT");
+  CountingPlatform counting(CurrentPlatform());
+  PlatformScope scope(counting);
+  list_.Show(u"D:\\JEUX\\", u"*.txt");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"B.TXT"));
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+  EXPECT_EQ(list_.Pattern(), u"*.txt");
+  EXPECT_EQ(counting.searches, 1);
+}
+
+TEST_F(FileListBoxTest, ShowOfAMissingDirectoryKeepsPathAndPattern) {
+  disc_.File("JEUX/A.EXE");
+  list_.Show(u"D:\\JEUX", u"*.exe");
+  EXPECT_THROW(list_.Show(u"D:\\RIEN", u"*.txt"), RuntimeError);
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+  EXPECT_EQ(list_.Pattern(), u"*.exe");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"A.EXE"));
 }
 
 class DirListBoxTest : public testing::Test {
