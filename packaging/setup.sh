@@ -44,7 +44,7 @@ need() { # PACKAGE...
     return 0
   }
   local missing as_root=()
-  mapfile -t missing < <(missing_packages "$@")
+  read -r -d '' -a missing <<<"$(missing_packages "$@")" || true
   [ ${#missing[@]} -gt 0 ] || return 0
   if [ "$(id -u)" != 0 ]; then
     command -v sudo >/dev/null || die "no sudo; as root: apt-get install ${missing[*]}"
