@@ -12,6 +12,8 @@ bool EqualsUnit(char16_t unit, char16_t wanted) {
 // What stands behind the last * has one place where it can match, the name's end: most names fail
 // there, at the first look.
 bool EndMatches(TextView name, TextView pattern) {
+  if (name.empty() || pattern.empty()) return true;  // for the whole comparison to judge
+  if (pattern.back() != u'*' && !EqualsUnit(name.back(), pattern.back())) return false;
   const std::size_t star = pattern.rfind(u'*');
   if (star == TextView::npos) return name.size() == pattern.size();
   const TextView end = pattern.substr(star + 1);

@@ -227,7 +227,8 @@ FindHandle ScanCache::FindFirstFile(const Text& pattern, FindData& data) {
   if (HasWildcard(last)) return Begin(Search(std::move(listing), last), data);
   const std::size_t found = listing->Find(last);
   if (found == listing->Size()) return FindHandle::kInvalid;
-  data = {listing->Attributes(found), Text(listing->Name(found))};
+  data.attributes = listing->Attributes(found);
+  data.name = listing->Name(found);
   // The search is at its end before it is asked again.
   return static_cast<FindHandle>(kOwnHandles + next_handle_++);
 }

@@ -63,7 +63,8 @@ class Analysis {
   Text Beside(TextView sNom) const {
     Text sFile;
     sFile.reserve(D_.size() + sNom.size());
-    return sFile.append(D_).append(sNom);
+    sFile.append(D_).append(sNom);
+    return sFile;
   }
   bool Exists(TextView sNom) const { return bFichierExiste(Beside(sNom)); }
   bool IsArchive() const { return bEstExtension(sFichier_, u"zip"); }

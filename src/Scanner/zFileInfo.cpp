@@ -32,7 +32,7 @@ constexpr Key kKeys[] = {
 
 Text Padded(int number, std::size_t width) {
   Text digits = Decimal(number);
-  digits.insert(0, digits.size() < width ? width - digits.size() : 0, u'0');
+  if (digits.size() < width) digits.insert(0, width - digits.size(), u'0');
   return digits;
 }
 
@@ -86,7 +86,8 @@ Text sFormatDate(const LocalTime& date) {
   text.reserve(kDateLength + 1 + kTimeLength);
   text.append(Padded(date.day, 2)).append(u"/").append(Padded(date.month, 2)).append(u"/");
   text.append(Padded(date.year, 4)).append(u" ").append(Padded(date.hour, 2)).append(u":");
-  return text.append(Padded(date.minute, 2)).append(u":").append(Padded(date.second, 2));
+  text.append(Padded(date.minute, 2)).append(u":").append(Padded(date.second, 2));
+  return text;
 }
 
 }  // namespace trovex
