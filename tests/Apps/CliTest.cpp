@@ -282,7 +282,7 @@ TEST_F(CatalogueTest, ADirectoryThatVanishesUnderTheScanEndsWithARunTimeErrorAnd
 
 TEST_F(CliTest, TheSampleDisc) {
   WriteSampleDisc(disc_.HostPath(""));
-  std::ifstream file(std::filesystem::path(__FILE__).parent_path() / "golden" / "sampledisc.json");
+  std::ifstream file(std::filesystem::path(TROVEX_TEST_SOURCES) / "Apps/golden/sampledisc.json");
   ASSERT_TRUE(file);
   const Json golden = Json::parse(file);
   const Json catalogue = Catalogue();
