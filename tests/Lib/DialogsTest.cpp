@@ -201,7 +201,6 @@ TEST_F(HelpTest, TheSearchGoesFromTheNamesOwnPlaceToTheProgramsDirectory) {
   EXPECT_EQ(sFichierDAide, u"D:\\AIDE\\TROVEX.HLP");
   disc.File("PROG/AIDE/TROVEX.HLP", "?");
   sFichierDAide = u"AIDE\\TROVEX.HLP";
-  machine.gone = {u"AIDE"};
   ChercheFichierDAide();
   EXPECT_EQ(sFichierDAide, u"D:\\PROG\\AIDE\\TROVEX.HLP");
 }

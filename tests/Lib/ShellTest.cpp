@@ -42,6 +42,15 @@ TEST_F(ShellTest, AnotherDriveIsLeftAgain) {
   EXPECT_EQ(machine.GetCurrentDirectory(), u"C:\\");
 }
 
+TEST_F(ShellTest, AProgramInTheRootStartsOnItsDrive) {
+  disc.File("X.EXE");
+  machine.ChangeDrive(u"C:");
+  iExecuteShellWin(u"D:\\X.EXE");
+  ASSERT_EQ(machine.started.size(), 1u);
+  EXPECT_EQ(machine.started[0].directory, u"D:\\");
+  EXPECT_EQ(machine.GetCurrentDirectory(), u"C:\\");
+}
+
 TEST_F(ShellTest, TheDirectoryIsThatOfTheWholeCommand) {
   iExecuteShellWin(u"D:\\JEU\\X.EXE D:\\MON JEU\\A.TXT");
   EXPECT_EQ(machine.started[0].directory, u"D:\\") << "there is no such directory";

@@ -42,7 +42,7 @@ RegistryValue FakeShell::TextValue(const Text& text) {
 
 bool FakeShell::IsThere(const Text& name) const {
   const Text upper = ToUpper(name);
-  if (NamesDrive(upper) && upper[0] != u'D') return false;
+  if (!NamesDrive(upper) || upper[0] != u'D') return false;
   return std::none_of(gone.begin(), gone.end(), [&](const Text& directory) {
     return upper == directory || upper.starts_with(directory + u"\\");
   });

@@ -16,7 +16,8 @@
 namespace trovex::test {
 
 // Only drive D: has contents, those of the platform below; the others are named by `drives`, and of
-// them only those in `ready` answer, with an empty root directory. Names are given in upper case.
+// them only those in `ready` answer, with an empty root directory; a name without a drive is
+// nowhere. What is set is given in upper case.
 class FakeShell : public ForwardingPlatform {
  public:
   explicit FakeShell(Platform& disc) : ForwardingPlatform(disc) {}
