@@ -2,6 +2,9 @@
 # Sourced by run and test, with `me` set to the script's name and `root` to the checkout: installs
 # what is missing and builds.
 
+# What one checkout has compiled serves every other one on the machine.
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=true
+
 say() {
   echo "$me: $*" >&2
 }
