@@ -9,8 +9,8 @@
 namespace trovex {
 namespace {
 
-constexpr std::size_t kListings = 8;         // directories kept beside those being walked
-constexpr std::size_t kUsualEntries = 16;    // of a directory, and the characters of their names
+constexpr std::size_t kListings = 8;       // directories kept beside those being walked
+constexpr std::size_t kUsualEntries = 16;  // of a directory, and the characters of their names
 constexpr std::size_t kUsualNames = 192;
 constexpr std::size_t kRecords = 8;          // version records kept
 constexpr std::size_t kProfiles = 32;        // profile answers kept

@@ -182,9 +182,8 @@ bool EqualsNoCase(TextView a, TextView b) {
   if (a.size() != b.size()) return false;
   if (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0) return true;
   // From the end: most texts compared are paths, and those share their beginnings.
-  return std::equal(a.rbegin(), a.rend(), b.rbegin(), [](char16_t x, char16_t y) {
-    return x == y || ToUpper(x) == ToUpper(y);
-  });
+  return std::equal(a.rbegin(), a.rend(), b.rbegin(),
+                    [](char16_t x, char16_t y) { return x == y || ToUpper(x) == ToUpper(y); });
 }
 
 double Val(TextView text) {

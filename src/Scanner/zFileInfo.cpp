@@ -51,7 +51,9 @@ void zFileInfo::PutFileName(const Text& sFileName) {
   }
 }
 
-void zFileInfo::ViderChamps() { *this = zFileInfo(); }
+void zFileInfo::ViderChamps() {
+  *this = zFileInfo();
+}
 
 void zFileInfo::TakeStatus(const FileStatus& status) {
   zSize_ = sFormatTaille(status.length);
