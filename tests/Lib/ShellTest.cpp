@@ -156,6 +156,10 @@ struct Refusal {
   TextView text;
 };
 
+void PrintTo(const Refusal& refusal, std::ostream* out) {
+  *out << refusal.code;
+}
+
 class ShellRefusal : public ShellTest, public testing::WithParamInterface<Refusal> {};
 
 TEST_P(ShellRefusal, HasItsText) {
