@@ -155,6 +155,10 @@ void TestDisc::File(std::string_view path, std::string_view contents, const Loca
   const Text name = NameOf(path);
   MakeDirectories(name.substr(0, name.find_last_of(u'\\')));
   WriteFileAt(name, contents, modified);
+  // Wine keeps profile files that it has read by name and date, and all files here bear the same
+  // date: it is told to drop this one.
+  const Text plain = name.starts_with(u"\\\\?\\") ? name.substr(4) : name;
+  WritePrivateProfileStringW(nullptr, nullptr, nullptr, Wide(plain));
 }
 
 void TestDisc::Directory(std::string_view path) {
