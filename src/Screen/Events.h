@@ -25,6 +25,8 @@ void Explorer_Click(MainForm& form);
 // RowInspector.cpp: turns the current row of a table into the full picture of its file. Every error
 // ends in the error box.
 void GridLogiciel_Click(MainForm& form, int Index);
+// Empties and hides what tells of a row, but for its icon.
+void EmptyPanes(MainForm& form);
 
 // CompanionFiles.cpp: lists what lies beside the row's file and shows what explains it best. Raises
 // kPathNotFound for a missing disk of a set.

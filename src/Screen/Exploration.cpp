@@ -18,12 +18,7 @@ void EnableExports(MainForm& form, bool enabled) {
 }
 
 void ClearWindow(MainForm& form) {
-  form.ListFichier.Clear();
-  for (int i = 0; i <= 5; ++i) form.TextInfo(i).SetText({});
-  form.PrintTexte.SetVisible(false);
-  form.ImageSelect.SetVisible(false);
-  form.TextInfo(0).SetVisible(false);
-  form.LabelInfo(2).SetVisible(false);
+  EmptyPanes(form);
   EnableExports(form, false);
   form.IconeFichier.SetPicture({});
   for (int i = 0; i < kTableCount; ++i) ClearGrid(form.GridLogiciel(i), {});

@@ -11,16 +11,6 @@ namespace {
 
 constexpr int kArchives = static_cast<int>(Table::kArchives);
 
-void EmptyPanes(MainForm& form) {
-  form.ListFichier.Clear();
-  for (int i = 0; i <= 5; ++i) form.TextInfo(i).SetText({});
-  form.PrintTexte.SetVisible(false);
-  form.ImageSelect.SetVisible(false);
-  form.TextInfo(0).SetVisible(false);
-  form.LabelInfo(2).SetVisible(false);
-  form.IconeFichier.SetPicture({});
-}
-
 // False where column 1 holds no directory: the row has nothing to show.
 bool HasDirectory(Grid& grid) {
   grid.SetCol(1);
@@ -58,6 +48,7 @@ void ShowDetails(MainForm& form, Grid& grid, int Index, const Text& sFichier) {
 void Inspect(MainForm& form, int Index, Text& sFichier) {
   Grid& grid = form.GridLogiciel(Index);
   EmptyPanes(form);
+  form.IconeFichier.SetPicture({});
   grid.SetCol(2);
   sFichier = Trim(grid.GetText());
   if (sFichier.empty()) return;
@@ -72,6 +63,15 @@ void Inspect(MainForm& form, int Index, Text& sFichier) {
 }
 
 }  // namespace
+
+void EmptyPanes(MainForm& form) {
+  form.ListFichier.Clear();
+  for (int i = 0; i <= 5; ++i) form.TextInfo(i).SetText({});
+  form.PrintTexte.SetVisible(false);
+  form.ImageSelect.SetVisible(false);
+  form.TextInfo(0).SetVisible(false);
+  form.LabelInfo(2).SetVisible(false);
+}
 
 void GridLogiciel_Click(MainForm& form, int Index) {
   if (form.GridLogiciel(Index).Row() <= 0) return;

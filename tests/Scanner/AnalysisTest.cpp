@@ -574,6 +574,37 @@ TEST_F(AnalysisTest, ALogicielTxtOfOneLineGivesAnEmptyVersion) {
 
 // --- Failures ---
 
+// A disc whose README.TXT bears the hidden attribute, which not every system can store.
+class HiddenReadMePlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
+    const FindHandle handle = ForwardingPlatform::FindFirstFile(pattern, data);
+    Hide(data);
+    return handle;
+  }
+  bool FindNextFile(FindHandle handle, FindData& data) override {
+    const bool found = ForwardingPlatform::FindNextFile(handle, data);
+    Hide(data);
+    return found;
+  }
+
+ private:
+  static void Hide(FindData& data) {
+    if (EqualsNoCase(data.name, u"README.TXT")) data.attributes |= kAttributeHidden;
+  }
+};
+
+TEST_F(AnalysisTest, AHiddenReadMeIsPassedOver) {
+  Lines("README.TXT", {u"caché"});
+  Lines("INSTALL.TXT", {u"visible"});
+  Program("JEU.EXE", {{"ProductName", u""}});
+  HiddenReadMePlatform hiding(platform_);
+  PlatformScope scope(hiding);
+  ExplorerRepertoire(u"D:\\", true);
+  EXPECT_EQ(Rows(1)[0][0], u"visible");
+}
+
 // One text file that cannot be opened, though it is there.
 class LockedPlatform : public ForwardingPlatform {
  public:

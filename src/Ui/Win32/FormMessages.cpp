@@ -9,7 +9,6 @@
 namespace trovex::win32 {
 namespace {
 
-constexpr UINT kFlushMessage = WM_APP + 1;
 constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, from Windows 8.1 on
 
 }  // namespace

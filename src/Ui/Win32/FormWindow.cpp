@@ -9,7 +9,6 @@ namespace trovex::win32 {
 namespace {
 
 constexpr wchar_t kClass[] = L"TrovexForm";
-constexpr UINT kFlushMessage = WM_APP + 1;
 
 DWORD StyleOf(const Form& form) {
   const DWORD fixed = WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;

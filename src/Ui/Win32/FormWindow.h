@@ -45,6 +45,9 @@ class FormWindow {
   HBRUSH Background() const { return background_; }
 
  private:
+  // Posted to itself: the program has come to rest, what was put off is shown.
+  static constexpr UINT kFlushMessage = WM_APP + 1;
+
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
   LRESULT OnMessage(UINT message, WPARAM w, LPARAM l);
   bool Route(UINT message, WPARAM w, LPARAM l, LRESULT& result);
