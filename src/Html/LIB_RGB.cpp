@@ -6,6 +6,7 @@ namespace trovex {
 namespace {
 
 constexpr std::size_t kDigits = 6;
+constexpr int kLargest = 32767;  // channels and digits are 16-bit numbers
 constexpr TextView kHexDigits = u"0123456789ABCDEF";
 
 // Runs a routine of this module with its handler: the error box with the routine's name.
@@ -50,7 +51,11 @@ int Hexa2RGB(Text& sHexa, int& iRouge, int& iVert, int& iBleu) {
 int HexaToDecimal(const Text& sChiffre) {
   return Reporting(u"HexaToDecimal()", -1, [&] {
     const Text sMajuscule = ToUpper(sChiffre);
-    if (sMajuscule >= u"0" && sMajuscule <= u"9") return static_cast<int>(Val(sMajuscule));
+    if (sMajuscule >= u"0" && sMajuscule <= u"9") {
+      const double value = Val(sMajuscule);
+      if (value > kLargest) throw RuntimeError(ErrorNumber::kOverflow, u"LIB_RGB");
+      return static_cast<int>(value);
+    }
     if (sMajuscule >= u"A" && sMajuscule <= u"F") return static_cast<int>(sMajuscule[0]) - 55;
     return -1;
   });

@@ -10,7 +10,8 @@ namespace trovex {
 // channels untouched, for a text that is empty, "0", longer than six characters or no number.
 int Hexa2RGB(Text& sHexa, int& iRouge, int& iVert, int& iBleu);
 
-// Value of one digit, 0 to 15, or -1.
+// Value of one digit, 0 to 15, or -1. A text of more characters counts as a number if it lies
+// between "0" and "9"; one beyond 32767 is reported by the error box and gives -1.
 int HexaToDecimal(const Text& sChiffre);
 
 // True if the text begins with a hexadecimal digit; it is cut to that first character, raised.

@@ -1,5 +1,6 @@
 #include "Html/Lib_OptionsHTML.h"
 
+#include <cmath>
 #include <memory>
 
 #include "Lib/Dialogs.h"
@@ -47,6 +48,9 @@ OptionsHTML::OptionsHTML()
   BindHelp();
   on_load = [this] { Form_Load(); };
   on_activate = [] { CurrentView().SetPointer(Pointer::kDefault); };
+  on_paint = [this] {
+    for (int i : {0, 1, 2}) TraceLigneHorizontale3D(*this, Get<Line>(u"LigneGroupe", i));
+  };
   on_unload = [this] { Form_Unload(); };
   Fermer.on_click = [this] { CloseAndSave(); };
   on_key_press = [this](int key) {
@@ -143,8 +147,7 @@ void OptionsHTML::ReadSettings() {
   CheckFin.SetValue(bLitIni(kSection, u"html_fin", CheckFin.Value(), sFichierIni));
   CheckFrame.SetValue(bLitIni(kSection, u"html_frame", CheckFrame.Value(), sFichierIni));
   CheckCR.SetValue(bLitIni(kSection, u"html_cr", CheckCR.Value(), sFichierIni));
-  const Text sCar = sLitIni(kSection, u"html_car", CheckCR.Tag(), sFichierIni);
-  OptionTag(static_cast<int>(Val(sCar))).SetValue(true);
+  SelectTag(sLitIni(kSection, u"html_car", CheckCR.Tag(), sFichierIni));
 
   const auto read = [](const Text& sCle, CheckBox& box, TextBox& field) {
     box.SetValue(true);
@@ -161,6 +164,12 @@ void OptionsHTML::ReadSettings() {
     CheckSuffixe.SetValue(false);
   }
   read(u"html_ref", CheckRef, RefHTML);
+}
+
+void OptionsHTML::SelectTag(const Text& sNumero) {
+  const double n = std::nearbyint(Val(sNumero));
+  if (n != 0 && n != 1) throw RuntimeError(ErrorNumber::kNoSuchElement, Name());
+  OptionTag(static_cast<int>(n)).SetValue(true);
 }
 
 void OptionsHTML::ReadImageSettings() {
@@ -201,8 +210,10 @@ void OptionsHTML::CloseAndSave() {
 OptionsHTML& Lib_OptionsHTML() {
   static std::unique_ptr<OptionsHTML> form;
   if (!form || !form->Loaded()) {
-    form = std::make_unique<OptionsHTML>();
-    form->Load();
+    auto fresh = std::make_unique<OptionsHTML>();
+    // One that could not be loaded is not kept: half of the settings would be saved over all.
+    fresh->Load();
+    form = std::move(fresh);
   }
   return *form;
 }

@@ -48,13 +48,14 @@ class OptionsHTML : public Form {
   void Form_Load();
   void Form_Unload();
   void ReadSettings();
+  void SelectTag(const Text& sNumero);
   void ReadImageSettings();
   void CloseAndSave();
   void SaveText(const Text& sCle, const CheckBox& box, const TextBox& field);
 };
 
 // The single instance, loaded, and the settings read, at its first use; it stays loaded and hidden.
-// An html_car outside 0 and 1 raises kNoSuchElement.
+// An html_car outside 0 and 1 raises kNoSuchElement, at each use anew.
 OptionsHTML& Lib_OptionsHTML();
 
 }  // namespace trovex

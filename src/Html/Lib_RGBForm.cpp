@@ -1,10 +1,12 @@
 #include "Html/Lib_RGBForm.h"
 
+#include <charconv>
 #include <cmath>
 
 #include "Html/LIB_RGB.h"
 #include "Lib/Dialogs.h"
 #include "Lib/Graphics.h"
+#include "Lib/HelpPanel.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Resources/RgbFormTable.h"
 #include "Resources/Strings.h"
@@ -17,11 +19,21 @@ constexpr int kLeast = 1;
 constexpr int kGreatest = 255;
 constexpr std::size_t kLongestValue = 3;
 
+constexpr int kPrecision = 15;  // digits of a number
+
+// A number that may have decimals.
+Text DecimalText(double value) {
+  char digits[32];
+  // No "-0": what is added makes it plain.
+  const auto end = std::to_chars(std::begin(digits), std::end(digits), value + 0.0,
+                                 std::chars_format::general, kPrecision);
+  return Text(digits, end.ptr);
+}
+
 // The numeric value of the text again as text, three characters at most. Each replacement comes
 // back here and settles at once.
 void Normalise(TextBox& field) {
-  const double value = Val(Trimmed(field.GetText()));
-  Text sValeur = Decimal(static_cast<long long>(value));
+  Text sValeur = DecimalText(Val(Trimmed(field.GetText())));
   if (sValeur.size() > kLongestValue) sValeur.resize(kLongestValue);
   field.SetText(sValeur);
 }
@@ -30,7 +42,7 @@ void Normalise(TextBox& field) {
 void TestValue(ScrollBar& bar, const TextBox& field) {
   const double value = Val(field.GetText());
   if (value >= 0 && value <= kGreatest) {
-    bar.SetValue(static_cast<int>(std::lround(value)));
+    bar.SetValue(static_cast<int>(std::nearbyint(value)));
   } else {
     MessageErreur(ResString(StringId::kValeurRgb) + Decimal(kGreatest));
   }
@@ -112,10 +124,7 @@ void Lib_RGBForm::Answer(const Text& tag) {
 
 void Lib_RGBForm::BindHelp() {
   const auto tell = [this](Control& control, const Text& sTexte) {
-    control.on_mouse_move = [this, &control, sTexte] {
-      if (control.Kind() == ControlKind::kButton) control.SetFocus();
-      PanelAide.SetCaption(sTexte);
-    };
+    TellInPanel(PanelAide, control, sTexte);
   };
   tell(*this, {});
   tell(Valider, ResString(StringId::kAideValider));

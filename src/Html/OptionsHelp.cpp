@@ -2,6 +2,7 @@
 #include "Html/Lib_OptionsHTML.h"
 #include "Html/Lib_RGBForm.h"
 #include "Lib/Dialogs.h"
+#include "Lib/HelpPanel.h"
 #include "Resources/Strings.h"
 
 namespace trovex {
@@ -48,10 +49,7 @@ void OptionsHTML::BindPickers() {
 
 void OptionsHTML::BindHelp() {
   const auto tell = [this](Control& control, const Text& sTexte) {
-    control.on_mouse_move = [this, &control, sTexte] {
-      if (control.Kind() == ControlKind::kButton) control.SetFocus();
-      PanelAide.SetCaption(sTexte);
-    };
+    TellInPanel(PanelAide, control, sTexte);
   };
   tell(*this, {});
   tell(CheckEntete, R(StringId::kAideEntete));

@@ -122,6 +122,7 @@ class Session {
     view_.AnswerQuestion(BoxAnswer::kNo);                                          // look at it?
     const std::size_t before = ExportErrors();
     Raise(form.ConvertHTML.on_click);
+    view_.ForgetAnswers();  // an export that failed asked no more
     return ExportErrors() == before;
   }
 

@@ -18,6 +18,10 @@ std::string CheckDrive(std::string& drive) {
   return letter ? std::string() : "a drive is a letter from A to Z";
 }
 
+std::string CheckNotEmpty(std::string& name) {
+  return name.empty() ? "a file needs a name" : std::string();
+}
+
 // The library's message on one line.
 std::string OneLine(std::string text) {
   std::replace(text.begin(), text.end(), '\n', ' ');
@@ -44,7 +48,8 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
   app.add_option("--ini", options.ini, "Settings file instead of Trovex.ini beside the program")
       ->type_name("FILE");
   app.add_option("--html", options.html, "Exports to HTML: frames, tables, data")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckNotEmpty, "", "name"));
   app.add_option("--table", options.table, "One table only: 0, 1 or 2")
       ->type_name("N")
       ->check(CLI::Range(0, 2));

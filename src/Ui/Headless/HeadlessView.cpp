@@ -83,6 +83,13 @@ void HeadlessView::ShowHelp(CommonDialog& dialog) {
   helps_.push_back({dialog.help_file, dialog.help_command, dialog.help_key});
 }
 
+void HeadlessView::ForgetAnswers() {
+  question_answers_.clear();
+  box_answers_.clear();
+  file_answers_.clear();
+  form_answers_.clear();
+}
+
 void HeadlessView::Forget() {
   boxes_.clear();
   helps_.clear();

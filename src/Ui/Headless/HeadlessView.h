@@ -27,6 +27,8 @@ class HeadlessView : public View {
   void AnswerFile(Text name) { file_answers_.push_back(std::move(name)); }
   // What a user does in the next modal form; it must end by hiding or unloading the form.
   void AnswerForm(std::function<void(Form&)> user) { form_answers_.push_back(std::move(user)); }
+  // Empties the queues.
+  void ForgetAnswers();
   std::size_t UnusedAnswers() const {
     return question_answers_.size() + box_answers_.size() + file_answers_.size() +
            form_answers_.size();
