@@ -1,0 +1,151 @@
+#include "Screen/HtmlExportTest.h"
+
+namespace trovex::test {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+
+const Text kFileDialog = u"Désignez le nom du fichier HTML à créer";
+
+// --- The dialogue before it ---------------------------------------------------------------------
+
+TEST_F(HtmlQuestionsTest, TheUserIsAskedInThisOrder) {
+  Export();
+  EXPECT_EQ(view.FileDialogs(), std::vector<Text>{kFileDialog});
+  const CommonDialog& dialog = Lib_Form().DialogueCommun();
+  EXPECT_EQ(dialog.filter, u"Fichiers HTML (*.htm)|*.htm");
+  EXPECT_EQ(dialog.default_extension, u".htm");
+  std::vector<Text> texts;
+  for (const Box& box : view.Boxes()) {
+    EXPECT_EQ(box.style, BoxStyle::kQuestion);
+    texts.push_back(box.text);
+  }
+  EXPECT_EQ(texts, (std::vector<Text>{
+                       u"Souhaitez-vous exporter au format HTML tous les tableaux ?",
+                       u"Une dernière question : \r\n\r\nSouhaitez-vous conserver la lettre du "
+                       u"lecteur (C:, D:, etc.) dans le chemin (path) des fichiers ?",
+                       u"Souhaitez-vous consulter le résultat de la génération ?"}));
+}
+
+TEST_F(HtmlQuestionsTest, TheTableIsChosenAmongThree) {
+  view.AnswerFile(u"D:\\SITE\\Fichier.htm");
+  view.Answer(BoxAnswer::kNo);
+  view.AnswerForm([](Form& dialog) {
+    auto& choice = dynamic_cast<Lib_SelectDlg&>(dialog);
+    EXPECT_EQ(choice.Libelle().Caption(), u"Sélectionnez le tableau à exporter : ");
+    EXPECT_EQ(choice.SelOptions(0).Caption(), u"Fichiers d'installation Setup/Install");
+    EXPECT_EQ(choice.SelOptions(1).Caption(), u"Fichiers Exécutable");
+    EXPECT_EQ(choice.SelOptions(2).Caption(), u"Archives ZIP");
+    EXPECT_TRUE(choice.SelOptions(0).Value());
+    choice.Annuler().Press();
+  });
+  Raise(form.ConvertHTML.on_click);
+}
+
+TEST_F(HtmlQuestionsTest, WithoutAFileNameNothingIsAskedAndNothingIsBusy) {
+  view.AnswerFile(u"");
+  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(Help(), u"");
+  EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
+  ExpectNoFile();
+}
+
+TEST_F(HtmlQuestionsTest, CancelAtTheFirstQuestionCreatesNoFile) {
+  view.AnswerFile(u"D:\\SITE\\Fichier.htm");
+  view.Answer(BoxAnswer::kCancel);
+  Raise(form.ConvertHTML.on_click);
+  ExpectNoFile();
+  EXPECT_EQ(Help(), kBusy);
+  EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
+}
+
+TEST_F(HtmlQuestionsTest, CancelAtTheSecondQuestionCreatesNoFile) {
+  view.AnswerFile(u"D:\\SITE\\Fichier.htm");
+  view.Answer(BoxAnswer::kYes);
+  view.Answer(BoxAnswer::kCancel);
+  Raise(form.ConvertHTML.on_click);
+  ExpectNoFile();
+  EXPECT_EQ(Help(), kBusy);
+}
+
+TEST_F(HtmlQuestionsTest, CancelInTheChoiceCreatesNoFile) {
+  view.AnswerFile(u"D:\\SITE\\Fichier.htm");
+  view.Answer(BoxAnswer::kNo);
+  view.AnswerForm([](Form& dialog) { dynamic_cast<Lib_SelectDlg&>(dialog).Annuler().Press(); });
+  Raise(form.ConvertHTML.on_click);
+  ExpectNoFile();
+  EXPECT_EQ(Help(), kBusy);
+}
+
+TEST_F(HtmlQuestionsTest, OnYesTheFramesetFileIsOpened) {
+  Export({.look = true});
+  ASSERT_EQ(machine.shelled.size(), 1u);
+  EXPECT_EQ(machine.shelled[0].file, u"D:\\SITE\\Fichier.htm");
+  Export();
+  EXPECT_EQ(machine.shelled.size(), 1u);
+}
+
+// --- What it does to the window -----------------------------------------------------------------
+
+TEST_F(HtmlQuestionsTest, TheTabComesBackAndTheRowsStayOnTheLast) {
+  form.ZoneDesTableaux.SetTab(2);
+  ClickRow(1);
+  Export();
+  EXPECT_EQ(form.ZoneDesTableaux.Tab(), 2);
+  EXPECT_EQ(form.GridLogiciel(1).Row(), 2);
+  EXPECT_EQ(form.GridLogiciel(1).Col(), 3);
+  EXPECT_EQ(Help(), u"");
+  EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
+}
+
+TEST_F(HtmlQuestionsTest, TheDetailsShowTheLastRowExported) {
+  form.ZoneDesTableaux.SetTab(1);
+  ClickRow(1);
+  Export();
+  EXPECT_EQ(Info(5), u"D:\\Vide\\Rien.exe");
+}
+
+TEST_F(HtmlQuestionsTest, OneTableAskedForLeavesTheOthersUntouched) {
+  disc.File("Z/A.ZIP", ZipArchive(5000));
+  disc.File("Z/B.ZIP", ZipArchive(5000));
+  disc.File("Z/C.ZIP", ZipArchive(5000));
+  Scan();
+  form.ZoneDesTableaux.SetTab(1);
+  form.GridLogiciel(0).SetRow(1);
+  form.GridLogiciel(2).SetRow(2);
+  form.GridLogiciel(2).SetCol(3);
+  std::vector<int> visited;
+  const auto follow = form.ZoneDesTableaux.on_tab_click;
+  form.ZoneDesTableaux.on_tab_click = [&](int previous) {
+    visited.push_back(form.ZoneDesTableaux.Tab());
+    follow(previous);
+  };
+  Export({.table = 1});
+  EXPECT_EQ(visited, std::vector<int>());
+  EXPECT_EQ(form.GridLogiciel(2).Row(), 2);
+  EXPECT_EQ(form.GridLogiciel(2).Col(), 3);
+  EXPECT_THAT(Tables(), Not(HasSubstr("#ZIP")));
+  Export({.table = 2});
+  EXPECT_EQ(visited, (std::vector<int>{2, 1}));
+}
+
+TEST_F(HtmlQuestionsTest, TheMouseGivesTheButtonTheFocusAndTellsWhatItDoes) {
+  Raise(form.ConvertHTML.on_mouse_move);
+  EXPECT_EQ(view.Focus(), &form.ConvertHTML);
+  EXPECT_EQ(Help(), u"Permet la construction de fichiers HTML à partir des données du tableau.");
+}
+
+TEST_F(HtmlQuestionsTest, TheOptionsOpenBetweenBusyAndNotBusy) {
+  view.AnswerForm([this](Form& options) {
+    EXPECT_EQ(Help(), kBusy);
+    options.Close();
+  });
+  Press(form.CommandOption);
+  EXPECT_EQ(Help(), u"");
+  EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
+}
+
+}  // namespace
+}  // namespace trovex::test
