@@ -89,6 +89,21 @@ class ForwardingPlatform : public Platform {
     return target_.RegQueryValueEx(key, name, value);
   }
   void RegCloseKey(RegistryKey key) override { target_.RegCloseKey(key); }
+  bool GetVersionEx(OsVersionInfo& info) override { return target_.GetVersionEx(info); }
+  void GetSystemInfo(SystemInfo& info) override { target_.GetSystemInfo(info); }
+  bool GlobalMemoryStatus(MemoryStatus& status) override {
+    return target_.GlobalMemoryStatus(status);
+  }
+  SnapshotHandle CreateToolhelp32Snapshot(std::uint32_t flags, std::uint32_t process) override {
+    return target_.CreateToolhelp32Snapshot(flags, process);
+  }
+  bool Process32First(SnapshotHandle snapshot, ProcessEntry& entry) override {
+    return target_.Process32First(snapshot, entry);
+  }
+  bool Process32Next(SnapshotHandle snapshot, ProcessEntry& entry) override {
+    return target_.Process32Next(snapshot, entry);
+  }
+  void CloseHandle(SnapshotHandle snapshot) override { target_.CloseHandle(snapshot); }
   void MessageBeep(std::uint32_t type) override { target_.MessageBeep(type); }
   std::uint32_t GetLastError() override { return target_.GetLastError(); }
   Text FormatMessage(std::uint32_t code) override { return target_.FormatMessage(code); }

@@ -1,6 +1,7 @@
 #include "Platform/Posix/PosixPlatform.h"
 
 #include <fcntl.h>
+#include <sys/utsname.h>
 
 #include <cerrno>
 #include <chrono>
@@ -13,6 +14,7 @@
 #include "Platform/Posix/LocalDate.h"
 #include "Platform/Posix/ProfileFile.h"
 #include "Platform/Posix/Replacement.h"
+#include "Platform/Posix/SystemData.h"
 #include "Platform/Posix/VersionResource.h"
 
 namespace trovex {
@@ -416,6 +418,46 @@ Text PosixPlatform::GetEnvironmentVariable(const Text& name) {
     if (EqualsNoCase(key, name)) return value;
   }
   return {};
+}
+
+// --- System data
+// ----------------------------------------------------------------------------------
+
+bool PosixPlatform::GetVersionEx(OsVersionInfo& info) {
+  utsname system;
+  if (info.dwOSVersionInfoSize != kOsVersionInfoSize || uname(&system) != 0) return false;
+  info = VersionOfRelease(system.release);
+  return true;
+}
+
+void PosixPlatform::GetSystemInfo(SystemInfo& info) {
+  utsname system;
+  info.dwProcessorType = uname(&system) == 0 ? ProcessorTypeOf(system.machine) : 0;
+}
+
+bool PosixPlatform::GlobalMemoryStatus(MemoryStatus& status) {
+  const std::optional<MemoryStatus> memory = ReadMemory(setup_.proc_directory);
+  if (memory) status = *memory;
+  return memory.has_value();
+}
+
+SnapshotHandle PosixPlatform::CreateToolhelp32Snapshot(std::uint32_t flags, std::uint32_t) {
+  std::vector<Text> names;
+  if ((flags & kSnapshotProcesses) != 0) names = ReadProcessNames(setup_.proc_directory);
+  return names.empty() ? SnapshotHandle::kNone : snapshots_.Add(std::move(names));
+}
+
+bool PosixPlatform::Process32First(SnapshotHandle snapshot, ProcessEntry& entry) {
+  snapshots_.Rewind(snapshot);
+  return Process32Next(snapshot, entry);
+}
+
+bool PosixPlatform::Process32Next(SnapshotHandle snapshot, ProcessEntry& entry) {
+  return entry.dwSize == kProcessEntrySize && snapshots_.Next(snapshot, entry.szExeFile);
+}
+
+void PosixPlatform::CloseHandle(SnapshotHandle snapshot) {
+  snapshots_.Close(snapshot);
 }
 
 // --- System services

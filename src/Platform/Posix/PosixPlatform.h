@@ -14,6 +14,7 @@
 #include "Platform/Posix/FindTable.h"
 #include "Platform/Posix/Names.h"
 #include "Platform/Posix/RegistryTable.h"
+#include "Platform/Posix/SnapshotTable.h"
 
 namespace trovex {
 
@@ -29,6 +30,8 @@ struct PosixSetup {
   Text program_directory = u"C:\\";
   // Names without regard to case.
   std::map<Text, Text> environment;
+  // What the system tells of memory and processes: a host directory.
+  std::string proc_directory = "/proc";
 };
 
 class PosixPlatform : public Platform {
@@ -75,6 +78,13 @@ class PosixPlatform : public Platform {
                     RegistryKey& key) override;
   long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) override;
   void RegCloseKey(RegistryKey key) override;
+  bool GetVersionEx(OsVersionInfo& info) override;
+  void GetSystemInfo(SystemInfo& info) override;
+  bool GlobalMemoryStatus(MemoryStatus& status) override;
+  SnapshotHandle CreateToolhelp32Snapshot(std::uint32_t flags, std::uint32_t process) override;
+  bool Process32First(SnapshotHandle snapshot, ProcessEntry& entry) override;
+  bool Process32Next(SnapshotHandle snapshot, ProcessEntry& entry) override;
+  void CloseHandle(SnapshotHandle snapshot) override;
   void MessageBeep(std::uint32_t type) override;
   std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
@@ -111,6 +121,7 @@ class PosixPlatform : public Platform {
   PosixSetup setup_;
   VersionMemo version_;
   posix::RegistryTable registry_;
+  posix::SnapshotTable snapshots_;
   int last_error_ = 0;
   std::mt19937_64 random_;
 };

@@ -70,8 +70,8 @@ void Win32Platform::StartProgram(const Text& command_line, int mode) {
     }
     throw RuntimeError(missing ? ErrorNumber::kFileNotFound : ErrorNumber::kInvalidCall);
   }
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
+  ::CloseHandle(process.hThread);
+  ::CloseHandle(process.hProcess);
 }
 
 int Win32Platform::ExtractIconEx(const Text& file, int index) {

@@ -55,6 +55,13 @@ class Win32Platform : public Platform {
                     RegistryKey& key) override;
   long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) override;
   void RegCloseKey(RegistryKey key) override;
+  bool GetVersionEx(OsVersionInfo& info) override;
+  void GetSystemInfo(SystemInfo& info) override;
+  bool GlobalMemoryStatus(MemoryStatus& status) override;
+  SnapshotHandle CreateToolhelp32Snapshot(std::uint32_t flags, std::uint32_t process) override;
+  bool Process32First(SnapshotHandle snapshot, ProcessEntry& entry) override;
+  bool Process32Next(SnapshotHandle snapshot, ProcessEntry& entry) override;
+  void CloseHandle(SnapshotHandle snapshot) override;
   void MessageBeep(std::uint32_t type) override;
   std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
@@ -64,9 +71,11 @@ class Win32Platform : public Platform {
  private:
   FileHandle Keep(OwnedFile file);
   void* Native(FileHandle file) const;
+  void* Native(SnapshotHandle snapshot) const;
 
   std::map<FindHandle, Search> searches_;
   std::map<FileHandle, OwnedFile> files_;
+  std::map<SnapshotHandle, OwnedFile> snapshots_;
   std::int64_t last_handle_ = 0;
   std::mt19937_64 random_;
 };

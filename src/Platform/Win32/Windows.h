@@ -5,6 +5,7 @@
 #include <windows.h>
 // Behind windows.h, whose types it needs.
 #include <shellapi.h>
+#include <tlhelp32.h>
 
 #undef CopyFile
 #undef DeleteFile
@@ -18,7 +19,10 @@
 #undef GetFileVersionInfoSize
 #undef GetPrivateProfileString
 #undef GetSystemDirectory
+#undef GetVersionEx
 #undef GetWindowsDirectory
+#undef Process32First
+#undef Process32Next
 #undef WritePrivateProfileString
 #undef ExtractIconEx
 #undef FindExecutable
