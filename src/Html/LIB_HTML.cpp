@@ -98,8 +98,7 @@ Text sEnteteHTML(const std::optional<Text>& vTitre) {
   const Text T = TitleOf(vTitre);
   OptionsHTML& options = Lib_OptionsHTML();
   const Text sImage = options.CheckImage.Value() ? options.ImageDebut.GetText() : Text();
-  const Text sVersion =
-      Decimal(kVersionMajor) + u"." + Decimal(kVersionMinor) + u"." + Decimal(kVersionRevision);
+  const Text sVersion = Text(kVersionNumbers);
   const Text sFin(kCrLf);
   return u"<!-- DOCUMENT HTML GENERE PAR L'APPLICATION (c) " + Text(kTitle) + u" " + sVersion +
          u" - 1999 -->" + sFin + u"<!-- DOCTYPE HTML SYSTEM \"html.dtd\" -->" + sFin +

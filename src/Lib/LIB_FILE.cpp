@@ -11,6 +11,7 @@ namespace {
 constexpr std::uint32_t kSpecial = kAttributeHidden | kAttributeSystem | kAttributeDirectory;
 constexpr std::uint32_t kDirectoryBuffer = 255;  // characters
 constexpr int kLastLimitedLine = 300;
+constexpr std::size_t kDateAndTime = 19;  // characters
 
 Text DirectoryOf(std::uint32_t (Platform::*operation)(Text&, std::uint32_t)) {
   Text buffer;
@@ -45,6 +46,12 @@ Text TextOfCode(int iCode) {
     default:
       return {};
   }
+}
+
+Text Padded(int number, std::size_t width) {
+  Text digits = Decimal(number);
+  if (digits.size() < width) digits.insert(0, width - digits.size(), u'0');
+  return digits;
 }
 
 }  // namespace
@@ -101,6 +108,15 @@ bool bRepertoireExiste(TextView sChemin) {
 bool bEstExtension(TextView sNom, TextView sExtension) {
   if (sNom.empty() || sExtension.empty()) return false;
   return EqualsNoCase(sDroiteDernier(sNom, u"."), sDroiteDernier(sExtension, u"."));
+}
+
+Text sFormatDate(const LocalTime& date) {
+  Text text;
+  text.reserve(kDateAndTime);
+  text.append(Padded(date.day, 2)).append(u"/").append(Padded(date.month, 2)).append(u"/");
+  text.append(Padded(date.year, 4)).append(u" ").append(Padded(date.hour, 2)).append(u":");
+  text.append(Padded(date.minute, 2)).append(u":").append(Padded(date.second, 2));
+  return text;
 }
 
 int iOuvreLecture(const Text& sNom, bool bMessage, bool bCreer) {

@@ -35,6 +35,9 @@ bool bRepertoireExiste(TextView sChemin);
 // regard to case. A name without a point compares whole.
 bool bEstExtension(TextView sNom, TextView sExtension);
 
+// "dd/mm/yyyy hh:mm:ss".
+Text sFormatDate(const LocalTime& date);
+
 // A number of an open file, or -1; the caller closes it.
 int iOuvreLecture(const Text& sNom, bool bMessage = true, bool bCreer = false);
 int iOuvreEcriture(const Text& sNom);

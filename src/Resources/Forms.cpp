@@ -1,16 +1,19 @@
 #include "Resources/Forms.h"
 
+#include "Resources/AboutDlgTable.h"
 #include "Resources/LibFormTable.h"
 #include "Resources/MainFormTable.h"
 #include "Resources/OptionsHtmlTable.h"
 #include "Resources/RgbFormTable.h"
 #include "Resources/SelectDlgTable.h"
+#include "Resources/SystemWinInfoTable.h"
 
 namespace trovex {
 
 std::span<const FormSpec* const> AllForms() {
   static constexpr const FormSpec* kForms[] = {
-      &kLibFormSpec, &kOptionsHtmlSpec, &kRgbFormSpec, &kSelectDlgSpec, &kMainFormSpec,
+      &kAboutDlgSpec,  &kLibFormSpec,       &kOptionsHtmlSpec, &kRgbFormSpec,
+      &kSelectDlgSpec, &kSystemWinInfoSpec, &kMainFormSpec,
   };
   return kForms;
 }

@@ -1,6 +1,6 @@
 #include "Scanner/zFileInfo.h"
 
-#include "Lib/LIB_STRING.h"
+#include "Lib/LIB_FILE.h"
 #include "Platform/Encoding.h"
 #include "Scanner/VersionRecord.h"
 
@@ -29,12 +29,6 @@ constexpr Key kKeys[] = {
     {"ProductName", 12, &zFileInfo::zProductName},
     {"ProductVersion", 16, &zFileInfo::zProductVersion},
 };
-
-Text Padded(int number, std::size_t width) {
-  Text digits = Decimal(number);
-  if (digits.size() < width) digits.insert(0, width - digits.size(), u'0');
-  return digits;
-}
 
 }  // namespace
 
@@ -81,15 +75,6 @@ Text sFormatTaille(std::int64_t iTaille) {
     return digits.substr(begin, end - begin);
   };
   return group(6, n) + u" " + group(3, 3) + u" " + group(0, 3);
-}
-
-Text sFormatDate(const LocalTime& date) {
-  Text text;
-  text.reserve(kDateLength + 1 + kTimeLength);
-  text.append(Padded(date.day, 2)).append(u"/").append(Padded(date.month, 2)).append(u"/");
-  text.append(Padded(date.year, 4)).append(u" ").append(Padded(date.hour, 2)).append(u":");
-  text.append(Padded(date.minute, 2)).append(u":").append(Padded(date.second, 2));
-  return text;
 }
 
 }  // namespace trovex

@@ -52,7 +52,4 @@ class zFileInfo {
 // there, digits beyond the ninth in front of the first group.
 Text sFormatTaille(std::int64_t iTaille);
 
-// "dd/mm/yyyy hh:mm:ss".
-Text sFormatDate(const LocalTime& date);
-
 }  // namespace trovex

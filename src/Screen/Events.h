@@ -12,6 +12,7 @@ void Form_Paint(MainForm& form);
 void Form_Unload(MainForm& form);
 void ListeDrive_Change(MainForm& form);
 void CommandOption_Click();
+void Apropos_Click(MainForm& form);
 
 // HelpLine.cpp: the text that each control writes into the status line under the mouse.
 void BindHelpLine(MainForm& form);

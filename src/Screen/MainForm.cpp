@@ -111,6 +111,7 @@ void MainForm::BindEvents() {
   Explorer.on_click = [this] { Explorer_Click(*this); };
   ConvertHTML.on_click = [this] { ConvertHTML_Click(*this); };
   CommandOption.on_click = [] { CommandOption_Click(); };
+  Apropos.on_click = [this] { Apropos_Click(*this); };
   Quitter.on_click = [this] { Unload(); };
   ZoneDesTableaux.on_tab_click = [this](int) { ZoneDesTableaux_Click(*this); };
   ListFichier.on_click = [this] { ListFichier_Click(*this); };

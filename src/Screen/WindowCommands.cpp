@@ -8,6 +8,7 @@
 #include "Resources/Version.h"
 #include "Scanner/LIB_GENERALE.h"
 #include "Screen/Events.h"
+#include "System/Lib_AboutDlg.h"
 
 namespace trovex {
 namespace {
@@ -26,8 +27,7 @@ void Form_Load(MainForm& form) {
   ShowCurrentDirectory(form);
   BusyOn();
   CenterForm(form);
-  form.SetCaption(ResString(StringId::kNomProgramme) + u" " + Decimal(kVersionMajor) + u"." +
-                  Decimal(kVersionMinor) + u"." + Decimal(kVersionRevision) + u" : " +
+  form.SetCaption(ResString(StringId::kNomProgramme) + u" " + Text(kVersionNumbers) + u" : " +
                   ResString(StringId::kRechercheLes));
   form.InitTitresTableaux();
   Form_Resize(form);
@@ -75,6 +75,13 @@ void CommandOption_Click() {
   BusyOn();
   Lib_OptionsHTML().ShowModal();
   BusyOff();
+}
+
+// The status line keeps its text when the window closes.
+void Apropos_Click(MainForm& form) {
+  BusyOn();
+  AfficheAbout(ResString(StringId::kNomProgramme), u"v" + Text(kVersionNumbers), form.ImageAppli,
+               ResString(StringId::kVersion32Bits));
 }
 
 void ListeDrive_Change(MainForm& form) {

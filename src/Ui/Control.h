@@ -38,6 +38,7 @@ enum class ControlKind {
   kCheckBox,
   kScrollBar,
   kPanel,
+  kFrame,
   kCommonDialog,
 };
 

@@ -55,6 +55,8 @@ std::unique_ptr<Control> Create(ControlKind kind) {
       return std::make_unique<ScrollBar>();
     case ControlKind::kPanel:
       return std::make_unique<Panel>();
+    case ControlKind::kFrame:
+      return std::make_unique<Frame>();
     case ControlKind::kCommonDialog:
       return std::make_unique<CommonDialog>();
   }

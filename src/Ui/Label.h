@@ -7,7 +7,7 @@
 
 namespace trovex {
 
-// Shared by the kinds that show one line of text: label, button, option button, panel.
+// Shared by the kinds that show one line of text: label, button, option button, panel, frame.
 class Captioned : public Control {
  public:
   using Control::Control;
@@ -37,6 +37,13 @@ class Label : public Captioned {
 class Panel : public Captioned {
  public:
   Panel() : Captioned(ControlKind::kPanel) {}
+};
+
+// Drawn around a group of controls, with its caption in the upper edge. What it surrounds stands
+// beside it on the form, not in it.
+class Frame : public Captioned {
+ public:
+  Frame() : Captioned(ControlKind::kFrame) {}
 };
 
 // A command button, with a picture over its caption where the form names one.

@@ -5,10 +5,11 @@
 
 namespace trovex {
 
-// A picture as a reference: the view loads and draws it. Three sources exist: none, a picture of
-// the program's own by its name, and an icon file or an icon inside a file.
+// A picture as a reference: the view loads and draws it. It comes from nowhere, from the program
+// itself by its name (an icon, or a bitmap that fills the control), from an icon file or from
+// inside a file.
 struct Picture {
-  enum class Source { kNone, kResource, kFile, kIconOf };
+  enum class Source { kNone, kResource, kBitmap, kFile, kIconOf };
 
   Source source = Source::kNone;
   Text name;      // of the resource or the file

@@ -73,6 +73,8 @@ class View {
   virtual void RunModal(Form& form) = 0;
   // Takes a form out of or into the topmost order.
   virtual void SetTopmost(Form& form, bool topmost) = 0;
+  // Puts a form before all others that are not topmost.
+  virtual void BringToFront(Form& form) = 0;
   // Draws a line on the form's surface, while the form paints.
   virtual void DrawStroke(Form& form, const Stroke& stroke) = 0;
 

@@ -534,5 +534,12 @@ TEST_F(DriveTypeTest, TheAnswerIsTheSystems) {
   EXPECT_EQ(iTypeLecteur(u"D:"), DriveType::kCdRom);
 }
 
+// --- Dates ------------------------------------------------------------------------------------
+
+TEST(DateTest, HasLeadingZeros) {
+  EXPECT_EQ(sFormatDate({2004, 1, 2, 3, 4, 6}), u"02/01/2004 03:04:06");
+  EXPECT_EQ(sFormatDate({1980, 12, 31, 0, 0, 0}), u"31/12/1980 00:00:00");
+}
+
 }  // namespace
 }  // namespace trovex::test

@@ -107,7 +107,6 @@ TEST_F(FileInfoTest, DateHasTenCharactersAndTimeEightWithLeadingZeros) {
   info_.PutFileName(u"D:\\A.EXE");
   EXPECT_EQ(info_.zDate(), u"02/01/2004");
   EXPECT_EQ(info_.zTime(), u"03:04:06");
-  EXPECT_EQ(sFormatDate({1980, 12, 31, 0, 0, 0}), u"31/12/1980 00:00:00");
 }
 
 TEST_F(FileInfoTest, AnEmptyOrBlankNameLeavesAllFieldsEmptyAndTouchesNoFile) {

@@ -202,6 +202,14 @@ TEST_F(FormTest, AFormThatGoesTakesTheFocusWithIt) {
   EXPECT_EQ(view.Focus(), nullptr);
 }
 
+TEST_F(FormTest, AFormThatGoesIsInFrontNoMore) {
+  form.Load();
+  view.BringToFront(form);
+  EXPECT_EQ(view.Front(), &form);
+  form.Unload();
+  EXPECT_EQ(view.Front(), nullptr);
+}
+
 TEST_F(FormTest, TheCloseBoxTakesTheFormsOwnWayOut) {
   int keys = 0;
   form.on_key_press = [&](int key) { keys += key; };

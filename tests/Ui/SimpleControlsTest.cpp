@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Ui/CommonDialog.h"
+#include "Ui/ControlFactory.h"
 #include "Ui/Headless/HeadlessView.h"
 #include "Ui/Label.h"
 #include "Ui/Picture.h"
@@ -33,6 +34,14 @@ TEST(TextBoxTest, AppendingAddsAtTheEnd) {
   box.Append(u" deux");
   EXPECT_EQ(box.GetText(), u"un deux");
   EXPECT_EQ(changes, 2);
+}
+
+TEST(FrameTest, IsMadeFromItsTableWithItsCaption) {
+  const ControlSpec spec = {ControlKind::kFrame, u"Zone", -1, {1, 2, 3, 4}, u" Titre "};
+  const std::unique_ptr<Control> control = CreateControl(spec);
+  auto* frame = dynamic_cast<Frame*>(control.get());
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->Caption(), u" Titre ");
 }
 
 TEST(TabControlTest, AnotherTabRaisesTheClickWithTheFormerOne) {

@@ -24,6 +24,7 @@ T TakeFirst(std::deque<T>& queue) {
 
 void HeadlessView::Detach(Form& form) {
   std::erase(topmost_, &form);
+  if (front_ == &form) front_ = nullptr;
   if (focus_ != nullptr && focus_->Parent() == &form) focus_ = nullptr;
 }
 

@@ -51,6 +51,8 @@ class HeadlessView : public View {
   Control* Focus() const { return focus_; }
   int Repaints(const Control& control) const;
   const std::vector<Form*>& TopmostForms() const { return topmost_; }
+  // The form brought to the front last; null once it is unloaded.
+  Form* Front() const { return front_; }
   void SetScreenSize(Extent size) { screen_ = size; }
   void Forget();
 
@@ -65,6 +67,7 @@ class HeadlessView : public View {
   void SetFocus(Control& control) override { focus_ = &control; }
   void RunModal(Form& form) override;
   void SetTopmost(Form& form, bool topmost) override;
+  void BringToFront(Form& form) override { front_ = &form; }
   void DrawStroke(Form&, const Stroke& stroke) override { strokes_.push_back(stroke); }
   BoxAnswer ShowBox(const Box& box) override;
   bool ShowFileDialog(CommonDialog& dialog) override;
@@ -89,6 +92,7 @@ class HeadlessView : public View {
   std::vector<Form*> topmost_;
   Pointer pointer_ = Pointer::kDefault;
   Control* focus_ = nullptr;
+  Form* front_ = nullptr;
   Extent screen_ = {15360, 11520};  // 1024 by 768 pixels
 };
 

@@ -33,6 +33,7 @@ std::unique_ptr<NativeControl> CreateNativeControl(Control& model, FormWindow& f
       return std::make_unique<StatusBarWindow>(static_cast<StatusBar&>(model), form);
     case ControlKind::kForm:
     case ControlKind::kFileListBox:  // a tool of hidden forms
+    case ControlKind::kFrame:
     case ControlKind::kImage:
     case ControlKind::kLine:
     case ControlKind::kShape:

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Platform/Win32/Names.h"
+#include "Ui/Win32/Surface.h"
 #include "Ui/Win32/Win32View.h"
 
 namespace trovex::win32 {
@@ -204,29 +205,10 @@ void FormWindow::OnPaint() {
   RECT client;
   GetClientRect(handle_, &client);
   FillRect(painting_, &client, background_);
-  PaintControls(painting_);
+  PaintSurface(painting_, form_, scale_, GetShared());
   Run(form_.on_paint);
   EndPaint(handle_, &paint);
   painting_ = nullptr;
-}
-
-// Shadows and pictures that have no window of their own.
-void FormWindow::PaintControls(HDC dc) {
-  for (const auto& control : form_.Controls()) {
-    if (!control->Visible()) continue;
-    const RECT at = scale_.Rect(control->GetPlace());
-    if (control->Kind() == ControlKind::kShape) {
-      const HBRUSH brush = CreateSolidBrush(NativeColour(control->BackColor()));
-      FillRect(dc, &at, brush);
-      DeleteObject(brush);
-    } else if (control->Kind() == ControlKind::kImage) {
-      const int size = at.bottom - at.top;
-      const OwnedIcon icon = LoadPicture(static_cast<Image&>(*control).GetPicture(), size);
-      if (icon.Get() != nullptr) {
-        DrawIconEx(dc, at.left, at.top, icon.Get(), size, size, 0, nullptr, DI_NORMAL);
-      }
-    }
-  }
 }
 
 void FormWindow::Run(const Event& reaction) {

@@ -60,7 +60,6 @@ class FormWindow {
   void OnMove();
   void OnDpiChanged(int dpi, const RECT& proposed);
   void OnPaint();
-  void PaintControls(HDC dc);
   void MoveFocus(bool backwards);
   RECT OuterRectangle() const;
 

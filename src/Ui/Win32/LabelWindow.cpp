@@ -3,6 +3,7 @@
 #include "Platform/Win32/Names.h"
 #include "Ui/Win32/ControlWindows.h"
 #include "Ui/Win32/FormWindow.h"
+#include "Ui/Win32/Surface.h"
 
 namespace trovex::win32 {
 namespace {
@@ -62,7 +63,14 @@ RECT LabelWindow::Rectangle() const {
 HBRUSH LabelWindow::OnColour(HDC dc) {
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, NativeColour(label_.ForeColor()));
-  return Owner().Background();
+  const RECT at = Rectangle();
+  if (!CoversPicture(Owner().Model(), at, GetScale())) return Owner().Background();
+  // The text stands on the picture: what the form shows here is drawn first, at its own place.
+  POINT origin;
+  SetViewportOrgEx(dc, -at.left, -at.top, &origin);
+  PaintSurface(dc, Owner().Model(), GetScale(), GetShared());
+  SetViewportOrgEx(dc, origin.x, origin.y, nullptr);
+  return static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH));
 }
 
 }  // namespace trovex::win32

@@ -14,6 +14,7 @@ class FormWindow;
 struct Shared {
   Fonts fonts;
   ResourceIcons icons;
+  ResourceBitmaps bitmaps;
 };
 
 // Creates the window, mirrors properties into it and hands the user's doings to the model. A mirror

@@ -26,6 +26,7 @@ HICON FromInside(const Text& name, int index) {
 OwnedIcon LoadPicture(const Picture& picture, int pixels) {
   switch (picture.source) {
     case Picture::Source::kNone:
+    case Picture::Source::kBitmap:
       break;
     case Picture::Source::kResource:
       return OwnedIcon(FromResource(picture.name, pixels));
@@ -35,6 +36,16 @@ OwnedIcon LoadPicture(const Picture& picture, int pixels) {
       return OwnedIcon(FromInside(picture.name, picture.index));
   }
   return {};
+}
+
+HBITMAP ResourceBitmaps::Get(const Text& name) {
+  auto known = bitmaps_.find(name);
+  if (known == bitmaps_.end()) {
+    const HANDLE bitmap =
+        LoadImageW(GetModuleHandleW(nullptr), Wide(name), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+    known = bitmaps_.emplace(name, OwnedBitmap(static_cast<HBITMAP>(bitmap))).first;
+  }
+  return known->second.Get();
 }
 
 HICON ResourceIcons::Get(const Text& name, int pixels) {

@@ -1,4 +1,5 @@
-// Icons from the program's resources, from icon files and from inside other files.
+// Icons and bitmaps from the program's resources, icons from icon files and from inside other
+// files.
 #pragma once
 
 #include <map>
@@ -28,8 +29,36 @@ class OwnedIcon {
   HICON icon_ = nullptr;
 };
 
-// The picture at so many pixels; an empty icon where it is none or cannot be read.
+// The icon at so many pixels; an empty one where the picture is none or cannot be read.
 OwnedIcon LoadPicture(const Picture& picture, int pixels);
+
+// A bitmap that its holder deletes.
+class OwnedBitmap {
+ public:
+  OwnedBitmap() = default;
+  explicit OwnedBitmap(HBITMAP bitmap) : bitmap_(bitmap) {}
+  OwnedBitmap(OwnedBitmap&& other) noexcept : bitmap_(other.bitmap_) { other.bitmap_ = nullptr; }
+  OwnedBitmap& operator=(OwnedBitmap&& other) noexcept {
+    std::swap(bitmap_, other.bitmap_);
+    return *this;
+  }
+  ~OwnedBitmap() {
+    if (bitmap_ != nullptr) DeleteObject(bitmap_);
+  }
+  HBITMAP Get() const { return bitmap_; }
+
+ private:
+  HBITMAP bitmap_ = nullptr;
+};
+
+// The program's own bitmaps at the size of their drawing, kept; null where there is none.
+class ResourceBitmaps {
+ public:
+  HBITMAP Get(const Text& name);
+
+ private:
+  std::map<Text, OwnedBitmap> bitmaps_;
+};
 
 // The program's own pictures, kept.
 class ResourceIcons {

@@ -69,6 +69,12 @@ void Win32View::SetTopmost(Form& form, bool topmost) {
   }
 }
 
+void Win32View::BringToFront(Form& form) {
+  if (FormWindow* window = Of(form)) {
+    SetWindowPos(window->Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  }
+}
+
 void Win32View::DrawStroke(Form& form, const Stroke& stroke) {
   if (FormWindow* window = Of(form)) window->Draw(stroke);
 }

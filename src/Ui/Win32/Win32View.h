@@ -34,6 +34,7 @@ class Win32View : public View {
   void SetFocus(Control& control) override;
   void RunModal(Form& form) override;
   void SetTopmost(Form& form, bool topmost) override;
+  void BringToFront(Form& form) override;
   void DrawStroke(Form& form, const Stroke& stroke) override;
   BoxAnswer ShowBox(const Box& box) override;
   bool ShowFileDialog(CommonDialog& dialog) override;
