@@ -6,7 +6,8 @@ function(trovex_add_resources target)
   set(folder ${PROJECT_SOURCE_DIR}/src/Resources)
   set(script ${CMAKE_CURRENT_BINARY_DIR}/generated/Resources/Trovex.rc)
   configure_file(${folder}/Trovex.rc.in ${script} @ONLY)
-  file(GLOB pictures CONFIGURE_DEPENDS ${folder}/pictures/*.ico)
+  file(GLOB pictures CONFIGURE_DEPENDS ${folder}/pictures/*.ico
+    ${folder}/pictures/*.bmp)
   set_source_files_properties(${script} PROPERTIES
     OBJECT_DEPENDS "${pictures};${folder}/Trovex.manifest")
   add_library(${target}_resources OBJECT ${script})
