@@ -1,5 +1,6 @@
 #include "Screen/MainForm.h"
 
+#include "Lib/Dialogs.h"
 #include "Lib/LIB_BUSY.h"
 #include "Resources/MainFormTable.h"
 #include "Resources/Strings.h"
@@ -107,6 +108,9 @@ void MainForm::BindEvents() {
   on_resize = [this] { Form_Resize(*this); };
   on_paint = [this] { Form_Paint(*this); };
   on_unload = [this] { Form_Unload(*this); };
+  on_key_down = [](int key) {
+    if (key == kKeyF1) AfficheAide({});
+  };
   ListeDrive.on_change = [this] { ListeDrive_Change(*this); };
   Explorer.on_click = [this] { Explorer_Click(*this); };
   ConvertHTML.on_click = [this] { ConvertHTML_Click(*this); };

@@ -26,6 +26,13 @@ TEST_F(WindowTest, LoadingLeavesTheWindowBusyUntilItIsFirstActivated) {
   EXPECT_EQ(Help(), u"");
 }
 
+TEST_F(WindowTest, F1OpensTheHelpBesideTheProgram) {
+  disc.File("PROG/TROVEX.HLP", "?");
+  form.on_key_down(kKeyF1);
+  form.on_key_down(kKeyEnter);
+  EXPECT_THAT(view.Helps(), ElementsAre(HeadlessView::HelpShown{u"D:\\PROG\\TROVEX.HLP", 0, u""}));
+}
+
 TEST_F(WindowTest, LoadingWritesTheTitlesOfEmptyTables) {
   for (int table = 0; table < kTableCount; ++table) {
     const Grid& grid = form.GridLogiciel(table);
