@@ -72,6 +72,8 @@ Lib_RGBForm::Lib_RGBForm()
   BindChannel(HScroll_G, G_Value);
   BindChannel(HScroll_B, B_Value);
   BindHelp();
+  Get<Shape>(u"CadreRGB").SetBackColor(Rgb(128, 128, 128));
+  LabelRGB.SetAlignment(Alignment::kCentre);
   Get<Label>(u"LabelR").SetForeColor(Rgb(255, 0, 0));
   Get<Label>(u"LabelG").SetForeColor(Rgb(0, 255, 0));
   Get<Label>(u"LabelB").SetForeColor(Rgb(0, 0, 255));

@@ -7,6 +7,7 @@ namespace {
 
 using K = ControlKind;
 
+// A channel a line, the colour beside them in a thin frame.
 constexpr ControlSpec kControls[] = {
     {K::kLabel, u"LabelR", -1, {180, 225, 240, 225}, u"R"},
     {K::kScrollBar, u"HScroll_R", -1, {480, 210, 3300, 255}},
@@ -17,6 +18,7 @@ constexpr ControlSpec kControls[] = {
     {K::kLabel, u"LabelB", -1, {180, 1065, 240, 225}, u"B"},
     {K::kScrollBar, u"HScroll_B", -1, {480, 1050, 3300, 255}},
     {K::kTextBox, u"B_Value", -1, {3900, 1020, 600, 315}},
+    {K::kShape, u"CadreRGB", -1, {4665, 165, 1290, 1185}},
     {K::kPictureBox, u"PictureRGB", -1, {4680, 180, 1260, 1155}},
     {K::kLabel, u"LabelRGB", -1, {4680, 1395, 1260, 225}, u"FFFFFF"},
     {K::kButton, u"Valider", -1, {3240, 1740, 1290, 375}},

@@ -39,7 +39,6 @@ class ButtonWindow : public NativeControl {
   Button& button_;
 };
 
-// Label and panel.
 class LabelWindow : public NativeControl {
  public:
   LabelWindow(Captioned& model, FormWindow& form);
@@ -53,6 +52,21 @@ class LabelWindow : public NativeControl {
 
  private:
   Captioned& label_;
+};
+
+// A line of text in a sunken frame.
+class PanelWindow : public NativeControl {
+ public:
+  PanelWindow(Panel& model, FormWindow& form);
+  bool TakesFocus() const override { return false; }
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+
+ protected:
+  void MirrorProperty(Property property) override;
+  Font ModelFont() const override { return panel_.GetFont(); }
+
+ private:
+  Panel& panel_;
 };
 
 class OptionWindow : public NativeControl {

@@ -9,8 +9,9 @@ std::unique_ptr<NativeControl> CreateNativeControl(Control& model, FormWindow& f
     case ControlKind::kButton:
       return std::make_unique<ButtonWindow>(static_cast<Button&>(model), form);
     case ControlKind::kLabel:
-    case ControlKind::kPanel:
       return std::make_unique<LabelWindow>(static_cast<Captioned&>(model), form);
+    case ControlKind::kPanel:
+      return std::make_unique<PanelWindow>(static_cast<Panel&>(model), form);
     case ControlKind::kOptionButton:
       return std::make_unique<OptionWindow>(static_cast<OptionButton&>(model), form);
     case ControlKind::kCheckBox:
