@@ -41,7 +41,7 @@ class ButtonWindow : public NativeControl {
 
 class LabelWindow : public NativeControl {
  public:
-  LabelWindow(Captioned& model, FormWindow& form);
+  LabelWindow(Label& model, FormWindow& form);
   bool TakesFocus() const override { return false; }
   HBRUSH OnColour(HDC dc) override;
 
@@ -51,7 +51,7 @@ class LabelWindow : public NativeControl {
   RECT Rectangle() const override;
 
  private:
-  Captioned& label_;
+  Label& label_;
 };
 
 // A line of text in a sunken frame.

@@ -9,7 +9,7 @@ std::unique_ptr<NativeControl> CreateNativeControl(Control& model, FormWindow& f
     case ControlKind::kButton:
       return std::make_unique<ButtonWindow>(static_cast<Button&>(model), form);
     case ControlKind::kLabel:
-      return std::make_unique<LabelWindow>(static_cast<Captioned&>(model), form);
+      return std::make_unique<LabelWindow>(static_cast<Label&>(model), form);
     case ControlKind::kPanel:
       return std::make_unique<PanelWindow>(static_cast<Panel&>(model), form);
     case ControlKind::kOptionButton:

@@ -33,7 +33,7 @@ int WidthOf(const Text& text, HFONT font) {
 
 }  // namespace
 
-LabelWindow::LabelWindow(Captioned& model, FormWindow& form)
+LabelWindow::LabelWindow(Label& model, FormWindow& form)
     : NativeControl(model, form), label_(model) {
   Create(L"STATIC", StyleOf(model.GetAlignment()) | SS_NOPREFIX | SS_NOTIFY);
   MirrorProperty(Property::kText);
@@ -49,7 +49,6 @@ void LabelWindow::MirrorProperty(Property) {
 // the left where it is aligned to the right.
 RECT LabelWindow::Rectangle() const {
   RECT at = NativeControl::Rectangle();
-  if (label_.Kind() != ControlKind::kLabel) return at;
   const int needed = WidthOf(label_.Caption(), GetShared().fonts.Get(ModelFont(), GetScale()));
   const int missing = std::max(0, needed - static_cast<int>(at.right - at.left));
   if (label_.GetAlignment() == Alignment::kRight) {
