@@ -12,6 +12,7 @@
 #include "Resources/Strings.h"
 #include "Scanner/LIB_GENERALE.h"
 #include "Ui/Directory.h"
+#include "Ui/FormsScope.h"
 #include "Ui/Headless/HeadlessView.h"
 
 namespace trovex::cli {
@@ -60,17 +61,6 @@ class Progress {
   bool line_used_ = false;
 };
 
-// No form outlives the view that it was loaded into.
-class FormsScope {
- public:
-  FormsScope() = default;
-  ~FormsScope() {
-    while (!LoadedForms().empty()) LoadedForms().back()->Unload();
-  }
-  FormsScope(const FormsScope&) = delete;
-  FormsScope& operator=(const FormsScope&) = delete;
-};
-
 int Complain(std::ostream& err, const std::string& complaint) {
   err << complaint << '\n';
   return kWrongCommandLine;
@@ -79,19 +69,23 @@ int Complain(std::ostream& err, const std::string& complaint) {
 // The program from its start to the end of its work, on a host and a view that are in place.
 class Session {
  public:
+  // Relative names are taken from where the user stands: the program will go elsewhere.
   Session(const Options& options, Host& host, HeadlessView& view)
-      : options_(options), host_(host), view_(view) {}
+      : options_(options),
+        view_(view),
+        ini_(options.ini ? host.NameOf(*options.ini) : Text()),
+        html_(options.html ? host.NameOf(*options.html) : Text()) {}
 
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
     Main(form);
-    if (options_.ini) sFichierIni = host_.NameOf(*options_.ini);
+    if (options_.ini) sFichierIni = ini_;
     form.ListeRepertoire.SetPath(start);
     form.Explorer.Press();
     std::optional<Inspection> inspection;
     if (options_.inspect) inspection = InspectRows(form);
     Print(form, start, inspection ? &*inspection : nullptr, out);
-    const bool exported = !options_.html || ExportHtml(form, host_.NameOf(*options_.html));
+    const bool exported = !options_.html || ExportHtml(form, html_);
     form.Quitter.Press();
     return exported ? kDone : kExportFailed;
   }
@@ -137,8 +131,8 @@ class Session {
   }
 
   const Options& options_;
-  Host& host_;
   HeadlessView& view_;
+  const Text ini_, html_;
 };
 
 std::string MessageOf(const RuntimeError& error) {

@@ -5,6 +5,7 @@
 #include "Resources/Version.h"
 #include "Scanner/LIB_GENERALE.h"
 #include "Screen/MainForm.h"
+#include "Ui/FormsScope.h"
 #include "Ui/Win32/Win32View.h"
 
 namespace trovex {
@@ -23,6 +24,7 @@ int RunProgram() {
   PlatformScope platform_scope(platform);
   win32::Win32View view;
   ViewScope view_scope(view);
+  FormsScope forms;
   SetEndOfProgram([&view] {
     view.End();
     PostQuitMessage(0);
