@@ -8,6 +8,12 @@ namespace {
 constexpr TextView kUsualName = u"Tahoma";
 constexpr double kUsualSize = 8.25;
 
+// What may stand in for a font that the system lacks.
+DWORD FamilyOf(const Text& name) {
+  if (name == u"Fixedsys") return FIXED_PITCH | FF_MODERN;
+  return name == u"Times New Roman" ? VARIABLE_PITCH | FF_ROMAN : DEFAULT_PITCH;
+}
+
 }  // namespace
 
 Fonts::~Fonts() {
@@ -20,11 +26,10 @@ HFONT Fonts::Get(const Font& font, Scale scale) {
   HFONT& handle = fonts_[{name, size, font.bold, scale.dpi}];
   if (handle == nullptr) {
     // The old bitmap font does not scale and is not everywhere: any fixed-pitch font stands in.
-    const DWORD pitch = name == u"Fixedsys" ? FIXED_PITCH | FF_MODERN : DEFAULT_PITCH;
     const Text drawn = name == u"Fixedsys" ? Text(u"Courier New") : name;
     handle = CreateFontW(-scale.Points(size), 0, 0, 0, font.bold ? FW_BOLD : FW_NORMAL, FALSE,
                          FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                         CLEARTYPE_QUALITY, pitch, Wide(drawn));
+                         CLEARTYPE_QUALITY, FamilyOf(name), Wide(drawn));
   }
   return handle;
 }
