@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Ui/FormsScope.h"
 #include "Ui/Headless/HeadlessView.h"
 #include "Ui/Label.h"
 
@@ -228,6 +229,23 @@ TEST_F(FormTest, WithoutAWayOutTheCloseBoxUnloads) {
   form.Load();
   form.Close();
   EXPECT_FALSE(form.Loaded());
+}
+
+TEST_F(FormTest, NoFormOutlivesTheScopeOfTheFormsNotEvenOneThatWillNotGo) {
+  Form other{kSpec};
+  int failures = 0;
+  {
+    FormsScope forms;
+    form.Show();
+    other.Load();
+    form.on_unload = [&] {
+      ++failures;
+      throw RuntimeError(ErrorNumber::kInvalidCall);
+    };
+  }
+  EXPECT_THAT(LoadedForms(), IsEmpty());
+  EXPECT_FALSE(form.Loaded());
+  EXPECT_EQ(failures, 1);
 }
 
 TEST_F(FormTest, AnOptionReleasesTheOthersOfItsArray) {
