@@ -1,5 +1,7 @@
 #include "System/LIB_SYSTEME.h"
 
+#include <optional>
+
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_FILE.h"
@@ -12,6 +14,18 @@ namespace trovex::LIB_SYSTEME {
 namespace {
 
 constexpr std::uint32_t kBuffer = 50;  // characters
+
+// What the system leaves in a field of blanks: the directory with its terminator, if it fits.
+// Blanks at the end of a name stand before the terminator, out of reach of a trim at the right.
+// Nothing where the system gives no directory.
+std::optional<Text> DirectoryField(std::uint32_t (Platform::*operation)(Text&, std::uint32_t)) {
+  Text buffer;
+  const std::uint32_t length = (CurrentPlatform().*operation)(buffer, kBuffer);
+  if (length < 1) return std::nullopt;
+  if (length < kBuffer) buffer += u'\0';
+  buffer.resize(kBuffer, u' ');
+  return buffer;
+}
 
 // Of an empty name, too, unlike sAjouteBackslash.
 Text WithBackslash(Text sRepertoire) {
@@ -42,15 +56,13 @@ Text sNomSysteme;
 Text sVersionSysteme;
 
 Text sRepertoireWindows() {
-  Text buffer;
-  if (CurrentPlatform().GetWindowsDirectory(buffer, kBuffer) < 1) return {};
-  return WithBackslash(sTronqueAuNul(Trimmed(buffer)));
+  const std::optional<Text> field = DirectoryField(&Platform::GetWindowsDirectory);
+  return field ? WithBackslash(sTronqueAuNul(Trimmed(*field))) : Text();
 }
 
 Text sRepertoireSysteme() {
-  Text buffer;
-  if (CurrentPlatform().GetSystemDirectory(buffer, kBuffer) < 1) return {};
-  return WithBackslash(sTronqueAuNul(TrimmedRight(std::move(buffer))));
+  const std::optional<Text> field = DirectoryField(&Platform::GetSystemDirectory);
+  return field ? WithBackslash(sTronqueAuNul(TrimmedRight(*field))) : Text();
 }
 
 void GetVersionSysteme(Text& sNom, Text& sVersion) {

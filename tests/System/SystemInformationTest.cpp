@@ -152,10 +152,16 @@ TEST_F(DirectoriesTest, GetNoSecondBackslash) {
   EXPECT_EQ(LIB_SYSTEME::sRepertoireSysteme(), u"C:\\");
 }
 
-TEST_F(DirectoriesTest, AreTrimmedAtBothEndsOrAtTheRightAlone) {
-  machine.windows = machine.system = u"  C:\\WIN  ";
+TEST_F(DirectoriesTest, LoseBlanksInFrontInTheWindowsDirectoryAlone) {
+  machine.windows = machine.system = u"  C:\\WIN";
   EXPECT_EQ(LIB_SYSTEME::sRepertoireWindows(), u"C:\\WIN\\");
   EXPECT_EQ(LIB_SYSTEME::sRepertoireSysteme(), u"  C:\\WIN\\");
+}
+
+TEST_F(DirectoriesTest, KeepBlanksBeforeTheirTerminator) {
+  machine.windows = machine.system = u"C:\\WIN ";
+  EXPECT_EQ(LIB_SYSTEME::sRepertoireWindows(), u"C:\\WIN \\");
+  EXPECT_EQ(LIB_SYSTEME::sRepertoireSysteme(), u"C:\\WIN \\");
 }
 
 TEST_F(DirectoriesTest, EndAtTheirFirstNul) {
