@@ -125,6 +125,7 @@ class TextBoxWindow : public NativeControl {
   TextBox& box_;
   HBRUSH background_ = nullptr;
   bool stale_ = true;
+  bool typing_ = false;
 };
 
 class ListBoxWindow : public NativeControl {
@@ -232,6 +233,7 @@ class GridWindow : public NativeControl {
   GridWindow(Grid& model, FormWindow& form);
   void Flush() override;
   bool OnNotify(NMHDR& header, LRESULT& result) override;
+  void OnPartNotify(const NMHDR& header) override;
   void Rescale() override;
 
  protected:
@@ -250,6 +252,7 @@ class GridWindow : public NativeControl {
 
   Grid& grid_;
   bool stale_ = true;
+  bool showing_columns_ = false;
   int chosen_by_press_ = -1;
 };
 

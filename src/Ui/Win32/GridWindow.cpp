@@ -46,6 +46,7 @@ void GridWindow::MakeColumns() {
 }
 
 void GridWindow::ShowColumns() {
+  showing_columns_ = true;
   for (int col = 0; col < grid_.Cols(); ++col) {
     LVCOLUMNW column = {};
     column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
@@ -54,6 +55,16 @@ void GridWindow::ShowColumns() {
     column.pszText = const_cast<wchar_t*>(Wide(grid_.Cell(0, col)));
     Send(LVM_SETCOLUMNW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&column));
   }
+  showing_columns_ = false;
+}
+
+// A column that the user has widened or narrowed keeps its width.
+void GridWindow::OnPartNotify(const NMHDR& header) {
+  if (header.code != HDN_ITEMCHANGEDW || showing_columns_ || Mirroring()) return;
+  const auto& change = reinterpret_cast<const NMHEADERW&>(header);
+  const bool width = change.pitem != nullptr && (change.pitem->mask & HDI_WIDTH) != 0;
+  if (!width || change.iItem >= grid_.Cols()) return;
+  grid_.SetColWidth(change.iItem, GetScale().Twips(change.pitem->cxy));
 }
 
 void GridWindow::MirrorProperty(Property) {
@@ -112,8 +123,10 @@ void GridWindow::OnSelected(int item) {
   Choose(item);
 }
 
-// A press on another row has chosen it already; a click on the chosen row counts once more.
+// A press on another row has chosen it already; a click on the chosen row counts once more. One
+// beside all rows chooses none: the highlight that it took away comes back.
 void GridWindow::OnClicked(int item) {
+  if (item < 0) ShowSelection();
   if (item != chosen_by_press_) Choose(item);
   chosen_by_press_ = -1;
 }

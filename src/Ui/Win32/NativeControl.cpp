@@ -99,6 +99,10 @@ LRESULT CALLBACK NativeControl::Subclass(HWND window, UINT message, WPARAM w, LP
     const bool moved = at.x != control->last_mouse_.x || at.y != control->last_mouse_.y;
     control->last_mouse_ = at;
     if (moved) control->form_.Run(control->model_.on_mouse_move);
+  } else if (message == WM_NOTIFY) {
+    const LRESULT result = DefSubclassProc(window, message, w, l);
+    control->OnPartNotify(*reinterpret_cast<const NMHDR*>(l));
+    return result;
   }
   return DefSubclassProc(window, message, w, l);
 }

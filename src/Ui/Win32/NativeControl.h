@@ -41,6 +41,9 @@ class NativeControl {
   // Messages that the form's procedure routes here. A result of false leaves the message alone.
   virtual void OnCommand(WORD /*code*/) {}
   virtual bool OnNotify(NMHDR& /*header*/, LRESULT& /*result*/) { return false; }
+  // What a part of the control reports to it, a list view's header for instance; it has acted on
+  // it.
+  virtual void OnPartNotify(const NMHDR& /*header*/) {}
   virtual void OnScroll(WORD /*code*/) {}
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
   virtual void OnMeasure(MEASUREITEMSTRUCT& /*item*/) {}

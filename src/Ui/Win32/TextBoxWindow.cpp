@@ -44,7 +44,7 @@ void TextBoxWindow::MirrorProperty(Property property) {
     background_ = CreateSolidBrush(NativeColour(box_.BackColor()));
     InvalidateRect(Handle(), nullptr, TRUE);
   }
-  if (property == Property::kText) {
+  if (property == Property::kText && !typing_) {
     stale_ = true;
     Owner().RequestFlush();
   }
@@ -61,7 +61,12 @@ void TextBoxWindow::OnCommand(WORD code) {
   // What the window shows of the model is no typing.
   if (code != EN_CHANGE || stale_ || box_.Locked()) return;
   const Text typed = TextOf(Handle());
-  if (typed != box_.GetText()) Owner().Run([&] { box_.SetText(typed); });
+  if (typed == box_.GetText()) return;
+  // The window shows it already; written again it would put the caret to its beginning.
+  typing_ = true;
+  Owner().Run([&] { box_.SetText(typed); });
+  typing_ = false;
+  if (box_.GetText() != typed) MirrorProperty(Property::kText);
 }
 
 bool TextBoxWindow::OnKey(WPARAM key) {

@@ -1,0 +1,53 @@
+#include "Ui/CommonDialog.h"
+#include "ViewTest.h"
+#include "support/Win32/BoxAnswerer.h"
+
+namespace trovex::win32 {
+namespace {
+
+using test::BoxAnswerer;
+
+class SystemDialogsTest : public ViewTest {
+ protected:
+  SystemDialogsTest() {
+    Make({});
+    Show();
+  }
+};
+
+TEST_F(SystemDialogsTest, ABoxShowsTitleAndTextAndGivesTheAnswer) {
+  BoxAnswerer answerer({IDNO});
+  EXPECT_EQ(view.ShowBox({BoxStyle::kQuestion, u"Trovex", u"Été ?"}), BoxAnswer::kNo);
+  ASSERT_EQ(answerer.Boxes().size(), 1u);
+  EXPECT_EQ(answerer.Boxes()[0].title, u"Trovex");
+  EXPECT_EQ(answerer.Boxes()[0].text, u"Été ?");
+}
+
+TEST_F(SystemDialogsTest, EachStyleHasItsAnswers) {
+  BoxAnswerer answerer({IDYES, IDCANCEL, IDOK, IDOK});
+  EXPECT_EQ(view.ShowBox({BoxStyle::kQuestion, u"T", u"?"}), BoxAnswer::kYes);
+  EXPECT_EQ(view.ShowBox({BoxStyle::kQuestion, u"T", u"?"}), BoxAnswer::kCancel);
+  EXPECT_EQ(view.ShowBox({BoxStyle::kErreur, u"T", u"!"}), BoxAnswer::kOk);
+  EXPECT_EQ(view.ShowBox({BoxStyle::kInfo, u"T", u"."}), BoxAnswer::kOk);
+}
+
+TEST_F(SystemDialogsTest, ABoxBelongsToTheWindowInFront) {
+  BoxAnswerer answerer({IDOK});
+  view.ShowBox({BoxStyle::kInfo, u"T", u"."});
+  ASSERT_EQ(answerer.Boxes().size(), 1u);
+  EXPECT_EQ(answerer.Boxes()[0].owner, FormHandle());
+}
+
+TEST_F(SystemDialogsTest, ACancelledFileDialogChangesNothing) {
+  BoxAnswerer answerer({IDCANCEL});
+  CommonDialog dialog;
+  dialog.file_name = u"D:\\*.htm";
+  dialog.filter = u"HTML|*.htm";
+  dialog.mode = CommonDialog::Mode::kSave;
+  EXPECT_FALSE(view.ShowFileDialog(dialog));
+  EXPECT_EQ(dialog.file_name, u"D:\\*.htm");
+  EXPECT_EQ(answerer.Boxes().size(), 1u);
+}
+
+}  // namespace
+}  // namespace trovex::win32
