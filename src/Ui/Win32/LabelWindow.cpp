@@ -8,6 +8,8 @@
 namespace trovex::win32 {
 namespace {
 
+constexpr int kGap = 3;  // pixels to a neighbour
+
 DWORD StyleOf(Alignment alignment) {
   switch (alignment) {
     case Alignment::kLeft:
@@ -31,6 +33,22 @@ int WidthOf(const Text& text, HFONT font) {
   return size.cx;
 }
 
+bool SideBySide(const Place& a, const Place& b) {
+  return a.top < b.top + b.height && b.top < a.top + a.height;
+}
+
+// Twips from the label's right edge to what stands next beside it.
+double RoomToTheRight(const Control& label) {
+  const double right = label.Left() + label.Width();
+  double room = label.Parent()->ScaleWidth() - right;
+  for (const auto& other : label.Parent()->Controls()) {
+    const bool beside = other->Container() == label.Container() && other->Page() == label.Page() &&
+                        other->Left() >= right && SideBySide(other->GetPlace(), label.GetPlace());
+    if (beside) room = std::min(room, other->Left() - right);
+  }
+  return std::max(0.0, room);
+}
+
 }  // namespace
 
 LabelWindow::LabelWindow(Label& model, FormWindow& form)
@@ -46,16 +64,16 @@ void LabelWindow::MirrorProperty(Property) {
 }
 
 // The place of a one-line label was measured with another font: a wider text gets what it needs, to
-// the left where it is aligned to the right.
+// the left where it is aligned to the right or has a neighbour there.
 RECT LabelWindow::Rectangle() const {
   RECT at = NativeControl::Rectangle();
   const int needed = WidthOf(label_.Caption(), GetShared().fonts.Get(ModelFont(), GetScale()));
   const int missing = std::max(0, needed - static_cast<int>(at.right - at.left));
-  if (label_.GetAlignment() == Alignment::kRight) {
-    at.left -= missing;
-  } else {
-    at.right += missing;
-  }
+  const bool to_the_left = label_.GetAlignment() == Alignment::kRight;
+  const int room = to_the_left ? 0 : GetScale().Pixels(RoomToTheRight(label_)) - kGap;
+  const int rightwards = std::clamp(room, 0, missing);
+  at.right += rightwards;
+  at.left -= missing - rightwards;
   return at;
 }
 

@@ -5,8 +5,6 @@
 namespace trovex::win32 {
 namespace {
 
-constexpr UINT kDpiChanged = 0x02E0;
-
 class FormWindowTest : public ViewTest {
  protected:
   FormWindowTest() {
@@ -27,19 +25,6 @@ class FormWindowTest : public ViewTest {
     keys[VK_SHIFT] = 0;
     SetKeyboardState(keys);
   }
-  SIZE ClientSize() {
-    RECT client;
-    GetClientRect(FormHandle(), &client);
-    return {client.right, client.bottom};
-  }
-  void ResizeClient(int width, int height) {
-    RECT outer = {0, 0, width, height};
-    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongPtrW(FormHandle(), GWL_STYLE)),
-                       FALSE, static_cast<DWORD>(GetWindowLongPtrW(FormHandle(), GWL_EXSTYLE)));
-    SetWindowPos(FormHandle(), nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
-                 SWP_NOMOVE | SWP_NOZORDER);
-    Rest();
-  }
 };
 
 TEST_F(FormWindowTest, ShowsCaptionAndClientArea) {
@@ -47,8 +32,8 @@ TEST_F(FormWindowTest, ShowsCaptionAndClientArea) {
   EXPECT_EQ(Shown(FormHandle()), u"Essai");
   TheForm().SetCaption(u"Trovex 1.0.0");
   EXPECT_EQ(Shown(FormHandle()), u"Trovex 1.0.0");
-  EXPECT_EQ(ClientSize().cx, 400);
-  EXPECT_EQ(ClientSize().cy, 300);
+  EXPECT_EQ(ClientSize(TheForm()).cx, 400);
+  EXPECT_EQ(ClientSize(TheForm()).cy, 300);
 }
 
 TEST_F(FormWindowTest, TheTabKeyFollowsTheOrderAndLeavesOutWhatCannotBeReached) {
@@ -85,7 +70,7 @@ TEST_F(FormWindowTest, AUsersResizeIsReportedInTwips) {
   Show();
   int resizes = 0;
   TheForm().on_resize = Count(resizes);
-  ResizeClient(500, 320);
+  ResizeClient(TheForm(), 500, 320);
   EXPECT_DOUBLE_EQ(TheForm().ScaleWidth(), 7500);
   EXPECT_DOUBLE_EQ(TheForm().ScaleHeight(), 4800);
   EXPECT_EQ(resizes, 1);
@@ -96,8 +81,8 @@ TEST_F(FormWindowTest, TheProgramsAnswerToAResizeIsShown) {
   TheForm().on_resize = [this] {
     if (TheForm().Width() < 6120) TheForm().Resize(6120, TheForm().Height());
   };
-  ResizeClient(300, 300);
-  EXPECT_EQ(ClientSize().cx, 400);
+  ResizeClient(TheForm(), 300, 300);
+  EXPECT_EQ(ClientSize(TheForm()).cx, 400);
 }
 
 TEST_F(FormWindowTest, TheProgramsOwnResizeIsReportedOnce) {
@@ -107,7 +92,7 @@ TEST_F(FormWindowTest, TheProgramsOwnResizeIsReportedOnce) {
   TheForm().Resize(7620, 4920);
   Rest();
   EXPECT_EQ(resizes, 1);
-  EXPECT_EQ(ClientSize().cx, 500);
+  EXPECT_EQ(ClientSize(TheForm()).cx, 500);
 }
 
 TEST_F(FormWindowTest, MinimisingChangesNoMeasure) {
@@ -138,12 +123,9 @@ TEST_F(FormWindowTest, TheCloseBoxUnloadsTheForm) {
 
 TEST_F(FormWindowTest, AnotherResolutionScalesFormAndControls) {
   Show();
-  const RECT proposed = {0, 0, 900, 700};
-  SendMessageW(FormHandle(), kDpiChanged, MAKEWPARAM(192, 192),
-               reinterpret_cast<LPARAM>(&proposed));
-  Rest();
-  EXPECT_EQ(ClientSize().cx, 800);
-  EXPECT_EQ(ClientSize().cy, 600);
+  MoveToResolution(TheForm(), 192);
+  EXPECT_EQ(ClientSize(TheForm()).cx, 800);
+  EXPECT_EQ(ClientSize(TheForm()).cy, 600);
   const RECT at = PlaceOf(B(1));
   EXPECT_EQ(at.left, 160);
   EXPECT_EQ(at.right, 280);

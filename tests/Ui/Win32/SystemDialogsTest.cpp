@@ -5,18 +5,18 @@
 namespace trovex::win32 {
 namespace {
 
-using test::BoxAnswerer;
-
 class SystemDialogsTest : public ViewTest {
  protected:
   SystemDialogsTest() {
     Make({});
     Show();
   }
+
+  test::BoxAnswerer answerer;
 };
 
 TEST_F(SystemDialogsTest, ABoxShowsTitleAndTextAndGivesTheAnswer) {
-  BoxAnswerer answerer({IDNO});
+  answerer.Press(IDNO);
   EXPECT_EQ(view.ShowBox({BoxStyle::kQuestion, u"Trovex", u"Été ?"}), BoxAnswer::kNo);
   ASSERT_EQ(answerer.Boxes().size(), 1u);
   EXPECT_EQ(answerer.Boxes()[0].title, u"Trovex");
@@ -24,7 +24,10 @@ TEST_F(SystemDialogsTest, ABoxShowsTitleAndTextAndGivesTheAnswer) {
 }
 
 TEST_F(SystemDialogsTest, EachStyleHasItsAnswers) {
-  BoxAnswerer answerer({IDYES, IDCANCEL, IDOK, IDOK});
+  answerer.Press(IDYES);
+  answerer.Press(IDCANCEL);
+  answerer.Press(IDOK);
+  answerer.Press(IDOK);
   EXPECT_EQ(view.ShowBox({BoxStyle::kQuestion, u"T", u"?"}), BoxAnswer::kYes);
   EXPECT_EQ(view.ShowBox({BoxStyle::kQuestion, u"T", u"?"}), BoxAnswer::kCancel);
   EXPECT_EQ(view.ShowBox({BoxStyle::kErreur, u"T", u"!"}), BoxAnswer::kOk);
@@ -32,14 +35,14 @@ TEST_F(SystemDialogsTest, EachStyleHasItsAnswers) {
 }
 
 TEST_F(SystemDialogsTest, ABoxBelongsToTheWindowInFront) {
-  BoxAnswerer answerer({IDOK});
+  answerer.Press(IDOK);
   view.ShowBox({BoxStyle::kInfo, u"T", u"."});
   ASSERT_EQ(answerer.Boxes().size(), 1u);
   EXPECT_EQ(answerer.Boxes()[0].owner, FormHandle());
 }
 
 TEST_F(SystemDialogsTest, ACancelledFileDialogChangesNothing) {
-  BoxAnswerer answerer({IDCANCEL});
+  answerer.Press(IDCANCEL);
   CommonDialog dialog;
   dialog.file_name = u"D:\\*.htm";
   dialog.filter = u"HTML|*.htm";

@@ -26,9 +26,7 @@ bool IsDialog(HWND window) {
 
 BoxAnswerer* BoxAnswerer::current_ = nullptr;
 
-BoxAnswerer::BoxAnswerer(std::vector<int> buttons)
-    : buttons_(std::move(buttons)),
-      hook_(SetWindowsHookExW(WH_CBT, Hook, nullptr, GetCurrentThreadId())) {
+BoxAnswerer::BoxAnswerer() : hook_(SetWindowsHookExW(WH_CBT, Hook, nullptr, GetCurrentThreadId())) {
   current_ = this;
 }
 
@@ -49,9 +47,14 @@ void BoxAnswerer::Answer(HWND box) {
   if (std::find(answered_.begin(), answered_.end(), box) != answered_.end()) return;
   answered_.push_back(box);
   boxes_.push_back({TextOf(box), TextOf(GetDlgItem(box, kMessageText)), GetWindow(box, GW_OWNER)});
-  const bool known = boxes_.size() <= buttons_.size();
-  PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(known ? buttons_[boxes_.size() - 1] : IDCANCEL),
-               0);
+  int button = IDCANCEL;
+  if (buttons_.empty()) {
+    unexpected_.push_back(boxes_.back());
+  } else {
+    button = buttons_.front();
+    buttons_.pop_front();
+  }
+  PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
 }
 
 }  // namespace trovex::test

@@ -1,6 +1,7 @@
 // Answers the system's boxes and dialogs in the order of their coming.
 #pragma once
 
+#include <deque>
 #include <vector>
 
 #include "Platform/Text.h"
@@ -9,8 +10,7 @@
 namespace trovex::test {
 
 // While it lives, each box or dialog that this thread opens is noted and its next button pressed;
-// one that no button was given for is cancelled, and counts as a failure of the test. At most one
-// exists.
+// one that no button was given for is cancelled, and counted. At most one exists.
 class BoxAnswerer {
  public:
   struct Seen {
@@ -19,21 +19,24 @@ class BoxAnswerer {
     HWND owner;
   };
 
-  // Identifiers of the buttons: IDYES, IDNO, IDOK, IDCANCEL.
-  explicit BoxAnswerer(std::vector<int> buttons);
+  BoxAnswerer();
   ~BoxAnswerer();
   BoxAnswerer(const BoxAnswerer&) = delete;
   BoxAnswerer& operator=(const BoxAnswerer&) = delete;
 
+  // The button of the next box that has none yet: IDYES, IDNO, IDOK or IDCANCEL.
+  void Press(int button) { buttons_.push_back(button); }
   const std::vector<Seen>& Boxes() const { return boxes_; }
+  // Those that came up without a button.
+  const std::vector<Seen>& Unexpected() const { return unexpected_; }
 
  private:
   static LRESULT CALLBACK Hook(int code, WPARAM w, LPARAM l);
   void Answer(HWND box);
 
   static BoxAnswerer* current_;
-  std::vector<int> buttons_;
-  std::vector<Seen> boxes_;
+  std::deque<int> buttons_;
+  std::vector<Seen> boxes_, unexpected_;
   std::vector<HWND> answered_;
   HHOOK hook_;
 };

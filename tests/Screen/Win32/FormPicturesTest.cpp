@@ -1,0 +1,148 @@
+// Every form in its real window at three resolutions: nothing is cut off, and a picture of each is
+// written where the environment variable TROVEX_PICTURES names a directory.
+#include <cstdlib>
+#include <map>
+
+#include "Html/Lib_OptionsHTML.h"
+#include "Html/Lib_RGBForm.h"
+#include "Lib/Lib_SelectDlg.h"
+#include "Resources/Forms.h"
+#include "WindowTest.h"
+#include "support/Win32/WindowPicture.h"
+
+namespace trovex::test {
+namespace {
+
+using testing::IsEmpty;
+
+class FormPicturesTest : public WindowTest {
+ protected:
+  // Shows the form and looks at it at 100, 150 and 200 percent.
+  void LookAt(Form& form) {
+    form.Load();
+    form.Show();
+    Rest();
+    for (const int percent : {100, 150, 200}) {
+      MoveToResolution(form, 96 * percent / 100);
+      Rest();
+      EXPECT_THAT(Clipped(form), IsEmpty()) << "at " << percent << " %";
+      TakePicture(form, percent);
+    }
+    MoveToResolution(form, 96);
+    seen_.insert(form.Name());
+  }
+
+  static std::set<Text> seen_;
+
+ private:
+  void TakePicture(const Form& form, int percent) {
+    const char* directory = std::getenv("TROVEX_PICTURES");
+    if (directory == nullptr) return;
+    const HWND window = Handle(form);
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE);
+    RedrawWindow(window, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    Rest();
+    WritePicture(window, std::filesystem::path(directory) /
+                             (ToUtf8(form.Name()) + "-" + std::to_string(percent) + ".png"));
+  }
+
+  // What of the form's controls cannot be read whole: captions wider or higher than their windows,
+  // windows that leave the form or cover each other.
+  std::vector<std::string> Clipped(const Form& form) {
+    std::vector<std::string> found;
+    const SIZE client = ClientSize(form);
+    for (const auto& control : form.Controls()) {
+      if (view.Of(form)->Of(*control) == nullptr || !IsWindowVisible(Handle(*control))) continue;
+      const RECT at = PlaceOf(*control);
+      // A closed drop-down list counts as high as it is closed.
+      if (at.left < 0 || at.top < 0 || at.right > client.cx || at.bottom > client.cy) {
+        found.push_back(NameOf(*control) + " leaves the form");
+      }
+      if (const auto* captioned = dynamic_cast<const Captioned*>(control.get())) {
+        if (!Fits(*captioned)) found.push_back(NameOf(*control) + " is too small for its caption");
+        const Control* other = Covered(form, *captioned);
+        if (other != nullptr) found.push_back(NameOf(*control) + " meets " + NameOf(*other));
+      }
+    }
+    return found;
+  }
+
+  std::string NameOf(const Control& control) {
+    return ToUtf8(control.Name()) + "(" + std::to_string(control.Index()) + ")";
+  }
+
+  // The pixels of a button that its frame, or its mark, leaves to no caption.
+  static int Margin(const Control& control, int height) {
+    if (control.Kind() == ControlKind::kButton) return 6;
+    const bool has_mark =
+        control.Kind() == ControlKind::kCheckBox || control.Kind() == ControlKind::kOptionButton;
+    return has_mark ? std::min(height, 20) : 0;
+  }
+
+  bool Fits(const Captioned& control) {
+    RECT client;
+    GetClientRect(Handle(control), &client);
+    const HDC dc = GetDC(Handle(control));
+    SelectObject(dc, reinterpret_cast<HFONT>(Ask(control, WM_GETFONT)));
+    RECT needed = {0, 0, client.right - Margin(control, client.bottom), 0};
+    const Text& caption = control.Caption();
+    const bool wraps =
+        control.Kind() == ControlKind::kLabel || control.Kind() == ControlKind::kPanel;
+    const int width = static_cast<int>(needed.right);
+    DrawTextW(dc, Wide(caption), static_cast<int>(caption.size()), &needed,
+              DT_CALCRECT | DT_NOPREFIX | (wraps ? DT_WORDBREAK : DT_SINGLELINE));
+    ReleaseDC(Handle(control), dc);
+    return needed.right <= width && needed.bottom <= client.bottom;
+  }
+
+  // Another window of the same page under a caption; null if there is none.
+  const Control* Covered(const Form& form, const Control& control) {
+    const RECT mine = PlaceOf(control);
+    for (const auto& other : form.Controls()) {
+      if (other.get() == &control || other->Kind() == ControlKind::kTabControl) continue;
+      if (view.Of(form)->Of(*other) == nullptr || !IsWindowVisible(Handle(*other))) continue;
+      const RECT its = PlaceOf(*other);
+      RECT common;
+      if (IntersectRect(&common, &mine, &its)) return other.get();
+    }
+    return nullptr;
+  }
+};
+
+std::set<Text> FormPicturesTest::seen_;
+
+TEST_F(FormPicturesTest, MainForm) {
+  MainForm form;
+  Main(form);
+  form.ListeRepertoire.SetPath(u"D:\\");
+  form.Explorer.Press();
+  Rest();
+  LookAt(form);
+}
+
+TEST_F(FormPicturesTest, OptionsHTML) {
+  OptionsHTML form;
+  LookAt(form);
+}
+
+TEST_F(FormPicturesTest, RGBForm) {
+  Lib_RGBForm form;
+  LookAt(form);
+}
+
+TEST_F(FormPicturesTest, SelectDlg) {
+  Lib_SelectDlg form;
+  LookAt(form);
+}
+
+// Comes last: the tool form is never shown.
+TEST_F(FormPicturesTest, ZEveryFormWasLookedAt) {
+  for (const FormSpec* spec : AllForms()) {
+    const bool shown = Text(spec->name) != u"Lib_Form";
+    EXPECT_EQ(seen_.contains(spec->name), shown) << ToUtf8(spec->name);
+  }
+}
+
+}  // namespace
+}  // namespace trovex::test

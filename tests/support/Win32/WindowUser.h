@@ -1,0 +1,94 @@
+// A user before real windows, who acts by messages to them.
+#pragma once
+
+#include "Platform/Win32/Names.h"
+#include "Ui/Form.h"
+#include "Ui/Win32/ControlWindows.h"
+#include "Ui/Win32/Win32View.h"
+#include "support/Win32/Bell.h"
+
+namespace trovex::test {
+
+// Holds the view, in place for its life. Each action ends when the program is at rest.
+class WindowUser {
+ public:
+  // Handles all messages that are waiting, and no more.
+  void Rest() {
+    bell_.Ring();
+    view.Run();
+  }
+
+  HWND Handle(const Form& form) const { return view.Of(form)->Handle(); }
+  HWND Handle(const Control& control) const {
+    return view.Of(*control.Parent())->Of(control)->Handle();
+  }
+  LRESULT Ask(const Control& control, UINT message, WPARAM w = 0, LPARAM l = 0) const {
+    return SendMessageW(Handle(control), message, w, l);
+  }
+  // The first 255 characters that a window shows.
+  Text Shown(HWND window) const {
+    Text text(256, u'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, Wide(text), 256)));
+    return text;
+  }
+  Text Shown(const Control& control) const { return Shown(Handle(control)); }
+  // The window's place in its form's client area, in pixels.
+  RECT PlaceOf(const Control& control) const {
+    RECT at;
+    GetWindowRect(Handle(control), &at);
+    MapWindowPoints(nullptr, Handle(*control.Parent()), reinterpret_cast<POINT*>(&at), 2);
+    return at;
+  }
+  SIZE ClientSize(const Form& form) const {
+    RECT client;
+    GetClientRect(Handle(form), &client);
+    return {client.right, client.bottom};
+  }
+
+  void Press(const Control& control, WPARAM key) {
+    PostMessageW(Handle(control), WM_KEYDOWN, key, 1);
+    PostMessageW(Handle(control), WM_KEYUP, key, 1);
+    Rest();
+  }
+  void Click(const Control& control, int x, int y) {
+    PostMessageW(Handle(control), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    PostMessageW(Handle(control), WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    Rest();
+  }
+  void DoubleClick(const Control& control, int x, int y) {
+    Click(control, x, y);
+    PostMessageW(Handle(control), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(x, y));
+    PostMessageW(Handle(control), WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    Rest();
+  }
+  void Push(const Button& button) {
+    PostMessageW(Handle(button), BM_CLICK, 0, 0);
+    Rest();
+  }
+  // Drags the window's edge until its client area measures so many pixels.
+  void ResizeClient(const Form& form, int width, int height) {
+    const HWND window = Handle(form);
+    RECT outer = {0, 0, width, height};
+    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)));
+    SetWindowPos(window, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    Rest();
+  }
+  // Moves the form to a monitor of another resolution.
+  void MoveToResolution(const Form& form, int dpi) {
+    constexpr UINT kDpiChanged = 0x02E0;
+    RECT at;
+    GetWindowRect(Handle(form), &at);
+    SendMessageW(Handle(form), kDpiChanged, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&at));
+    Rest();
+  }
+
+  win32::Win32View view;
+
+ private:
+  ViewScope view_scope_{view};
+  Bell bell_;
+};
+
+}  // namespace trovex::test
