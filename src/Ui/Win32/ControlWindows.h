@@ -245,6 +245,7 @@ class GridWindow : public NativeControl {
   void ShowColumns();
   void ShowSelection();
   void FillCell(NMLVDISPINFOW& info);
+  LRESULT DrawHighlight(NMLVCUSTOMDRAW& draw);
   void OnSelected(int item);
   void OnClicked(int item);
   void OnActivated(int item);

@@ -136,8 +136,22 @@ void GridWindow::OnActivated(int item) {
   Owner().Run(grid_.on_dbl_click);
 }
 
-bool GridWindow::OnNotify(NMHDR& header, LRESULT&) {
+// The current row is highlighted whether or not the table has the focus.
+LRESULT GridWindow::DrawHighlight(NMLVCUSTOMDRAW& draw) {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  const auto row = static_cast<int>(draw.nmcd.dwItemSpec) + 1;
+  if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || row != grid_.Row()) return CDRF_DODEFAULT;
+  draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+  draw.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  draw.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  return CDRF_NEWFONT;
+}
+
+bool GridWindow::OnNotify(NMHDR& header, LRESULT& result) {
   switch (header.code) {
+    case NM_CUSTOMDRAW:
+      result = DrawHighlight(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+      return true;
     case LVN_GETDISPINFOW:
       FillCell(reinterpret_cast<NMLVDISPINFOW&>(header));
       return true;

@@ -8,7 +8,8 @@
 namespace trovex::win32 {
 namespace {
 
-constexpr int kGap = 3;  // pixels to a neighbour
+constexpr int kGap = 3;    // pixels to a neighbour
+constexpr int kSlack = 2;  // a text that fits to the pixel is wrapped all the same
 
 DWORD StyleOf(Alignment alignment) {
   switch (alignment) {
@@ -67,7 +68,8 @@ void LabelWindow::MirrorProperty(Property) {
 // the left where it is aligned to the right or has a neighbour there.
 RECT LabelWindow::Rectangle() const {
   RECT at = NativeControl::Rectangle();
-  const int needed = WidthOf(label_.Caption(), GetShared().fonts.Get(ModelFont(), GetScale()));
+  const HFONT font = GetShared().fonts.Get(ModelFont(), GetScale());
+  const int needed = WidthOf(label_.Caption(), font) + kSlack;
   const int missing = std::max(0, needed - static_cast<int>(at.right - at.left));
   const bool to_the_left = label_.GetAlignment() == Alignment::kRight;
   const int room = to_the_left ? 0 : GetScale().Pixels(RoomToTheRight(label_)) - kGap;

@@ -133,6 +133,10 @@ TEST_F(FormPicturesTest, RGBForm) {
 
 TEST_F(FormPicturesTest, SelectDlg) {
   Lib_SelectDlg form;
+  form.Libelle().SetCaption(u"Quels tableaux faut-il exporter ?");
+  form.SelOptions(0).SetCaption(u"Le tableau affiché");
+  form.SelOptions(1).SetCaption(u"Tous les tableaux");
+  form.Preselect(0);
   LookAt(form);
 }
 

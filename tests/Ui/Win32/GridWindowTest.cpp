@@ -95,6 +95,16 @@ TEST_F(GridWindowTest, TheCurrentRowIsHighlightedAsAWhole) {
   Rest();
   EXPECT_EQ(Selected(), 3);
   EXPECT_TRUE(Ask(grid, LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_FULLROWSELECT);
+  // Whether or not the table has the focus.
+  for (const HWND focus : {Handle(grid), FormHandle()}) {
+    SetFocus(focus);
+    RedrawWindow(Handle(grid), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    const POINT at = Middle(3);
+    const HDC dc = GetDC(Handle(grid));
+    EXPECT_EQ(GetPixel(dc, 130, at.y), GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_NE(GetPixel(dc, 130, Middle(2).y), GetSysColor(COLOR_HIGHLIGHT));
+    ReleaseDC(Handle(grid), dc);
+  }
 }
 
 TEST_F(GridWindowTest, ARowThatComesUpIsScrolledIntoSight) {
