@@ -7,6 +7,8 @@
 #include "Html/Lib_RGBForm.h"
 #include "Lib/Lib_SelectDlg.h"
 #include "Resources/Forms.h"
+#include "System/Lib_AboutDlg.h"
+#include "System/Lib_SystemWinInfo.h"
 #include "WindowTest.h"
 #include "support/Win32/WindowPicture.h"
 
@@ -137,6 +139,18 @@ TEST_F(FormPicturesTest, SelectDlg) {
   form.SelOptions(0).SetCaption(u"Le tableau affiché");
   form.SelOptions(1).SetCaption(u"Tous les tableaux");
   form.Preselect(0);
+  LookAt(form);
+}
+
+TEST_F(FormPicturesTest, SystemWinInfo) {
+  Lib_SystemWinInfo form;
+  LookAt(form);
+}
+
+TEST_F(FormPicturesTest, AboutDlg) {
+  Lib_AboutDlg form;
+  form.LabelNom.SetCaption(u"Trovex");
+  form.LabelVersion.SetCaption(u"v1.0.0");
   LookAt(form);
 }
 
