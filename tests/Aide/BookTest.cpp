@@ -50,6 +50,13 @@ TEST(BookTest, EveryKindOfBlock) {
   EXPECT_EQ(PlainText(topic.blocks[6].spans), u"sens");
 }
 
+TEST(BookTest, AHeadingEndsWithItsLine) {
+  const Topic topic = TopicOf("a", "== Titre\nMot :: sens\n");
+  EXPECT_THAT(KindsOf(topic),
+              ElementsAre(BlockKind::kHeading, BlockKind::kTerm, BlockKind::kMeaning));
+  EXPECT_EQ(PlainText(topic.blocks[0].spans), u"Titre");
+}
+
 TEST(BookTest, MarksWithinAParagraph) {
   const Topic topic = TopicOf("a", "un **gros** `*.exe` et [[là-bas|b]].");
   const Spans& spans = topic.blocks[0].spans;

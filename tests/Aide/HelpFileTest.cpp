@@ -101,6 +101,17 @@ TEST(HelpFileTest, TheHelpOfTheProgramHoldsEveryTopicLinkAndKeyword) {
   ExpectTitles(file);
 }
 
+TEST(HelpFileTest, NoMarkOfTheSourceIsLeftInTheText) {
+  const HelpReader file = Read(ProgramBook());
+  for (const ReadTopicOf& topic : file.Topics()) {
+    for (const ReadParagraph& paragraph : topic.paragraphs) {
+      for (const char* mark : {"::", "**", "[[", "]]", "`", "=="}) {
+        EXPECT_EQ(paragraph.text.find(mark), std::string::npos) << topic.title << ": " << mark;
+      }
+    }
+  }
+}
+
 TEST(HelpFileTest, EveryTopicOfTheProgramCanBeReachedFromTheContentsPage) {
   const HelpReader file = Read(ProgramBook());
   std::set<uint32_t> linked;

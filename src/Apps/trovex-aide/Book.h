@@ -58,10 +58,10 @@ struct Book {
 // UTF-8. First come lines "key: value" up to an empty line: sujet (the name: letters a to z,
 // digits,
 // "_" and "."), titre, and mots (keywords with ";" between them; may be repeated). Empty lines end
-// a paragraph. One that begins with "== " is a heading, with "- " an item, with "1. " a step; " ::
-// " behind its first words makes them a term and the rest its meaning. Within it **bold**, `code`
-// and [[text|topic]]. Outside code, blanks before ; : ! ? » and behind « are made no-break and
-// apostrophes curled.
+// a paragraph. A line that begins with "== " is a heading; a paragraph that begins with "- " is an
+// item, with "1. " a step; " :: " behind its first words makes them a term and the rest its
+// meaning. Within it **bold**, `code` and [[text|topic]]. Outside code, blanks before ; : ! ? » and
+// behind « are made no-break and apostrophes curled.
 Topic ReadTopic(const std::string& file, std::string_view bytes, std::vector<Mistake>& mistakes);
 
 // Reads the files *.txt of a folder in the order of their names and checks that they fit: names are

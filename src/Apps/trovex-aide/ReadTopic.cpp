@@ -7,6 +7,8 @@
 namespace trovex::aide {
 namespace {
 
+constexpr TextView kHeadingMark = u"== ";
+constexpr TextView kItemMark = u"- ";
 constexpr TextView kTermMark = u" :: ";
 
 std::vector<Text> Lines(std::string_view bytes) {
@@ -118,7 +120,8 @@ class TopicReader {
       }
       const int first = LineNumber();
       Text paragraph(Trimmed(lines_[at_++]));
-      while (at_ < lines_.size() && !Trimmed(lines_[at_]).empty() && !BeginsBlock(lines_[at_])) {
+      const bool heading = paragraph.starts_with(kHeadingMark);
+      while (!heading && at_ < lines_.size() && Continues(lines_[at_])) {
         paragraph += u'\n';
         paragraph += Trimmed(lines_[at_++]);
       }
@@ -127,13 +130,18 @@ class TopicReader {
   }
 
   // Items follow each other without an empty line.
-  static bool BeginsBlock(TextView line) {
-    return line.starts_with(u"- ") || line.starts_with(u"== ") || !StepMarker(line).empty();
+  static bool Continues(TextView line) {
+    return !Trimmed(line).empty() && !line.starts_with(kItemMark) &&
+           !line.starts_with(kHeadingMark) && StepMarker(line).empty();
   }
 
   void AddBlock(TextView paragraph, int line) {
-    if (paragraph.starts_with(u"== ")) return Add(BlockKind::kHeading, paragraph.substr(3), line);
-    if (paragraph.starts_with(u"- ")) return Add(BlockKind::kBullet, paragraph.substr(2), line);
+    if (paragraph.starts_with(kHeadingMark)) {
+      return Add(BlockKind::kHeading, paragraph.substr(kHeadingMark.size()), line);
+    }
+    if (paragraph.starts_with(kItemMark)) {
+      return Add(BlockKind::kBullet, paragraph.substr(kItemMark.size()), line);
+    }
     const TextView marker = StepMarker(paragraph);
     if (!marker.empty()) {
       Add(BlockKind::kStep, paragraph.substr(marker.size() + 1), line);
