@@ -33,7 +33,7 @@ struct Place {
 };
 
 constexpr int kMargin = 10;
-constexpr int kHang = 20;
+constexpr int kHang = 24;
 constexpr Place kTitlePlace = {8, 12, kMargin};
 
 Place PlaceOf(BlockKind kind) {
