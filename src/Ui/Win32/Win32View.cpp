@@ -15,6 +15,13 @@ void KeepWindowsAlive() {
   DisableProcessWindowsGhosting();
 }
 
+// A quit message left behind would close the box that tells of a failure before it is seen.
+void ForgetQuit() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) {
+  }
+}
+
 }  // namespace
 
 Win32View::Win32View() {
@@ -120,6 +127,7 @@ void Win32View::Run() {
   while (PumpOne()) {
   }
   gone_.clear();
+  ForgetQuit();
   if (failure_) std::rethrow_exception(failure_);
 }
 
