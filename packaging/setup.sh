@@ -20,7 +20,7 @@ packages_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
 # Of what Wine only recommends: the libraries of its windows, and letters to write in them.
 packages_wine=(wine64 xvfb libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 libxcomposite1
   libxinerama1 fonts-liberation)
-packages_checks=(python3 clang-format-14)
+packages_checks=(python3 clang-format-14 poppler-utils)
 packages_pictures=(xdotool imagemagick)
 
 missing_packages() {

@@ -1,6 +1,7 @@
 #include "Resources/Forms.h"
 
 #include "Resources/AboutDlgTable.h"
+#include "Resources/GridListeTable.h"
 #include "Resources/LibFormTable.h"
 #include "Resources/MainFormTable.h"
 #include "Resources/OptionsHtmlTable.h"
@@ -12,8 +13,8 @@ namespace trovex {
 
 std::span<const FormSpec* const> AllForms() {
   static constexpr const FormSpec* kForms[] = {
-      &kAboutDlgSpec,  &kLibFormSpec,       &kOptionsHtmlSpec, &kRgbFormSpec,
-      &kSelectDlgSpec, &kSystemWinInfoSpec, &kMainFormSpec,
+      &kAboutDlgSpec, &kGridListeSpec, &kLibFormSpec,       &kOptionsHtmlSpec,
+      &kRgbFormSpec,  &kSelectDlgSpec, &kSystemWinInfoSpec, &kMainFormSpec,
   };
   return kForms;
 }

@@ -51,6 +51,12 @@ void GridLogiciel_MouseMove(int Index);
 // ConvertHTML.cpp: asks what to export to HTML, and where, and exports it.
 void ConvertHTML_Click(MainForm& form);
 
+// PrintCommands.cpp: writes the table on show to an ASCII file; prints it, and the text pane,
+// through a preview.
+void Exporter_Click(MainForm& form);
+void Imprimer_Click(MainForm& form);
+void PrintTexte_Click(MainForm& form);
+
 // TabSwitching.cpp: re-aims panes and commands at the table now visible.
 void ZoneDesTableaux_Click(MainForm& form);
 

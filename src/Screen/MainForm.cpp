@@ -114,6 +114,9 @@ void MainForm::BindEvents() {
   ListeDrive.on_change = [this] { ListeDrive_Change(*this); };
   Explorer.on_click = [this] { Explorer_Click(*this); };
   ConvertHTML.on_click = [this] { ConvertHTML_Click(*this); };
+  Exporter.on_click = [this] { Exporter_Click(*this); };
+  Imprimer.on_click = [this] { Imprimer_Click(*this); };
+  PrintTexte.on_click = [this] { PrintTexte_Click(*this); };
   CommandOption.on_click = [] { CommandOption_Click(); };
   Apropos.on_click = [this] { Apropos_Click(*this); };
   Quitter.on_click = [this] { Unload(); };

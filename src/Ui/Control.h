@@ -40,6 +40,7 @@ enum class ControlKind {
   kPanel,
   kFrame,
   kCommonDialog,
+  kPrintPreview,
 };
 
 // Left, top, width and height in twips, within the parent.

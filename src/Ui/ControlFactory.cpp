@@ -59,6 +59,8 @@ std::unique_ptr<Control> Create(ControlKind kind) {
       return std::make_unique<Frame>();
     case ControlKind::kCommonDialog:
       return std::make_unique<CommonDialog>();
+    case ControlKind::kPrintPreview:
+      break;  // made by its module, which adopts it into a form
   }
   throw RuntimeError(ErrorNumber::kInvalidCall, u"CreateControl");
 }

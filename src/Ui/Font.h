@@ -10,6 +10,7 @@ struct Font {
   Text name;
   double size = 0;  // points
   bool bold = false;
+  bool italic = false;
   bool operator==(const Font&) const = default;
 };
 

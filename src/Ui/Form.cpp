@@ -44,6 +44,12 @@ void Form::Add(const ControlSpec& spec) {
   controls_.push_back(std::move(control));
 }
 
+void Form::Adopt(std::unique_ptr<Control> control, const Text& name) {
+  control->SetName(name, -1);
+  control->SetParent(this);
+  controls_.push_back(std::move(control));
+}
+
 Control* Form::Find(TextView name, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
     return control->Index() == index && control->Name() == name;

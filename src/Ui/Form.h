@@ -27,6 +27,9 @@ class Form : public Control {
     throw RuntimeError(ErrorNumber::kNoSuchElement, Name());
   }
 
+  // Takes a control that the form's table does not hold; it goes with the form.
+  void Adopt(std::unique_ptr<Control> control, const Text& name);
+
   const Text& Caption() const { return caption_; }
   void SetCaption(TextView caption);
   bool Sizable() const { return sizable_; }

@@ -11,6 +11,8 @@ namespace trovex {
 class Control;
 class Form;
 class CommonDialog;
+struct Font;
+struct Preview;
 
 // What of a control has changed.
 enum class Property {
@@ -55,6 +57,13 @@ struct Stroke {
   bool operator==(const Stroke&) const = default;
 };
 
+// How lines of a font stand: from a line's top to what its letters stand on, and from line to line,
+// in twips.
+struct FontMeasure {
+  double ascent = 0;
+  double line = 0;
+};
+
 class View {
  public:
   virtual ~View() = default;
@@ -84,6 +93,14 @@ class View {
   virtual bool ShowFileDialog(CommonDialog& dialog) = 0;
   // Opens the help viewer on the dialog's help file, command and key.
   virtual void ShowHelp(CommonDialog& dialog) = 0;
+
+  // Measures of printed text, in twips: not rounded to the pixels of a screen, and the same for a
+  // document's whole life.
+  virtual double TextWidth(TextView text, const Font& font) = 0;
+  virtual FontMeasure MeasureFont(const Font& font) = 0;
+  // Shows a document's pages and prints them as the user likes; returns when the user has seen
+  // enough.
+  virtual void ShowPreview(const Preview& preview) = 0;
 
   virtual void SetPointer(Pointer pointer) = 0;
   virtual Extent ScreenSize() = 0;

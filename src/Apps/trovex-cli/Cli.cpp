@@ -5,6 +5,7 @@
 
 #include "Apps/trovex-cli/Catalogue.h"
 #include "Apps/trovex-cli/Options.h"
+#include "Export/Pdf.h"
 #include "Lib/LIB_INI.h"
 #include "Lib/Lib_SelectDlg.h"
 #include "Platform/Encoding.h"
@@ -14,6 +15,7 @@
 #include "Ui/Directory.h"
 #include "Ui/FormsScope.h"
 #include "Ui/Headless/HeadlessView.h"
+#include "Ui/Preview.h"
 
 namespace trovex::cli {
 namespace {
@@ -73,8 +75,10 @@ class Session {
   Session(const Options& options, Host& host, HeadlessView& view)
       : options_(options),
         view_(view),
-        ini_(options.ini ? host.NameOf(*options.ini) : Text()),
-        html_(options.html ? host.NameOf(*options.html) : Text()) {}
+        ini_(NameOf(host, options.ini)),
+        html_(NameOf(host, options.html)),
+        pdf_(NameOf(host, options.pdf)),
+        ascii_{NameOf(host, options.csv), NameOf(host, options.prn), NameOf(host, options.txt)} {}
 
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
@@ -85,12 +89,18 @@ class Session {
     std::optional<Inspection> inspection;
     if (options_.inspect) inspection = InspectRows(form);
     Print(form, start, inspection ? &*inspection : nullptr, out);
-    const bool exported = !options_.html || ExportHtml(form, html_);
+    bool exported = !options_.html || ExportHtml(form, html_);
+    exported = ExportTable(form) && exported;
+    if (options_.pdf) exported = PrintPdf(form, pdf_) && exported;
     form.Quitter.Press();
     return exported ? kDone : kExportFailed;
   }
 
  private:
+  static Text NameOf(Host& host, const std::optional<std::string>& argument) {
+    return argument ? host.NameOf(*argument) : Text();
+  }
+
   void Print(MainForm& form, const Text& start, const Inspection* inspection, std::ostream& out) {
     if (options_.json) {
       out << ToJson(form, start, inspection, view_.Boxes());
@@ -105,13 +115,7 @@ class Session {
   bool ExportHtml(MainForm& form, const Text& file) {
     view_.AnswerFile(file);
     view_.AnswerQuestion(options_.table ? BoxAnswer::kNo : BoxAnswer::kYes);  // all the tables?
-    if (options_.table) {
-      view_.AnswerForm([this](Form& dialog) {
-        Lib_SelectDlg& choice = static_cast<Lib_SelectDlg&>(dialog);
-        Raise(choice.SelOptions(*options_.table).on_click);
-        choice.Oui().Press();
-      });
-    }
+    if (options_.table) AnswerChoice(*options_.table);
     view_.AnswerQuestion(options_.drop_drive ? BoxAnswer::kNo : BoxAnswer::kYes);  // keep it?
     view_.AnswerQuestion(BoxAnswer::kNo);                                          // look at it?
     const std::size_t before = ExportErrors();
@@ -120,11 +124,58 @@ class Session {
     return ExportErrors() == before;
   }
 
+  // The exports of one table: that of --table, or the one that came up.
+  bool ExportTable(MainForm& form) {
+    bool exported = true;
+    for (int format = 0; format < 3; ++format) {
+      if (ascii_[format].empty()) continue;
+      ShowTable(form);
+      exported = ExportAscii(form, format, ascii_[format]) && exported;
+    }
+    return exported;
+  }
+
+  void ShowTable(MainForm& form) {
+    if (options_.table) form.ZoneDesTableaux.SetTab(*options_.table);
+  }
+
+  bool ExportAscii(MainForm& form, int format, const Text& file) {
+    AnswerChoice(format);
+    view_.AnswerFile(file);
+    const std::size_t before = ExportErrors();
+    Raise(form.Exporter.on_click);
+    return ExportErrors() == before;
+  }
+
+  // Presses the button and saves what the preview shows.
+  bool PrintPdf(MainForm& form, const Text& file) {
+    ShowTable(form);
+    const std::size_t before = ExportErrors();
+    view_.AnswerPreview([&](const Preview& preview) {
+      // Pages that stop in the middle of the table are no table.
+      if (ExportErrors() == before) SavePdf(preview.pages, file);
+    });
+    Raise(form.Imprimer.on_click);
+    return ExportErrors() == before;
+  }
+
+  // What a user does who takes one of the options.
+  void AnswerChoice(int option) {
+    view_.AnswerForm([option](Form& dialog) {
+      Lib_SelectDlg& choice = static_cast<Lib_SelectDlg&>(dialog);
+      Raise(choice.SelOptions(option).on_click);
+      choice.Oui().Press();
+    });
+  }
+
   std::size_t ExportErrors() const {
     // What rows say of missing disks is no failure of the export.
     const auto is_error = [](const Box& box) {
       return box.text.starts_with(ResString(StringId::kErreurHtml)) ||
-             box.text.starts_with(ResString(StringId::kErreurEcriture));
+             box.text.starts_with(ResString(StringId::kErreurEcriture)) ||
+             box.text.starts_with(ResString(StringId::kErreurPdf)) ||
+             box.text.starts_with(ResString(StringId::kDocumentTropLong)) ||
+             box.text.starts_with(u"GridExport()");
     };
     return static_cast<std::size_t>(
         std::count_if(view_.Boxes().begin(), view_.Boxes().end(), is_error));
@@ -132,7 +183,8 @@ class Session {
 
   const Options& options_;
   HeadlessView& view_;
-  const Text ini_, html_;
+  const Text ini_, html_, pdf_;
+  const Text ascii_[3];  // in the order of the choices; empty where there is no export
 };
 
 std::string MessageOf(const RuntimeError& error) {

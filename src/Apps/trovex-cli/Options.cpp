@@ -50,6 +50,18 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
   app.add_option("--html", options.html, "Exports to HTML: frames, tables, data")
       ->type_name("FILE")
       ->check(CLI::Validator(CheckNotEmpty, "", "name"));
+  app.add_option("--csv", options.csv, "Exports a table: cells in quotes, commas between them")
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckNotEmpty, "", "name"));
+  app.add_option("--prn", options.prn, "Exports a table: plain cells, blanks between them")
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckNotEmpty, "", "name"));
+  app.add_option("--txt", options.txt, "Exports a table: cells in quotes, tabs between them")
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckNotEmpty, "", "name"));
+  app.add_option("--pdf", options.pdf, "Prints a table as PDF")
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckNotEmpty, "", "name"));
   app.add_option("--table", options.table, "One table only: 0, 1 or 2")
       ->type_name("N")
       ->check(CLI::Range(0, 2));

@@ -12,7 +12,11 @@ struct Options {
   char drive = 'D';
   std::optional<std::string> start;
   std::optional<std::string> ini;   // a file name of the host's
-  std::optional<std::string> html;  // likewise
+  std::optional<std::string> html;  // likewise, as those that follow
+  std::optional<std::string> csv;
+  std::optional<std::string> prn;
+  std::optional<std::string> txt;
+  std::optional<std::string> pdf;
   std::optional<int> table;
   bool drop_drive = false;
   bool json = false;

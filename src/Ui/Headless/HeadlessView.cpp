@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "Ui/CommonDialog.h"
+#include "Ui/FontWidths.h"
 #include "Ui/Form.h"
+#include "Ui/Preview.h"
 
 namespace trovex {
 namespace {
@@ -89,6 +91,20 @@ void HeadlessView::ForgetAnswers() {
   box_answers_.clear();
   file_answers_.clear();
   form_answers_.clear();
+  preview_answers_.clear();
+}
+
+double HeadlessView::TextWidth(TextView text, const Font& font) {
+  return StandardWidth(text, font);
+}
+
+FontMeasure HeadlessView::MeasureFont(const Font& font) {
+  return StandardMeasure(font);
+}
+
+void HeadlessView::ShowPreview(const Preview& preview) {
+  if (preview_answers_.empty()) return Complain(u"preview " + preview.pages.title);
+  TakeFirst(preview_answers_)(preview);
 }
 
 void HeadlessView::Forget() {

@@ -29,9 +29,13 @@ class HeadlessView : public View {
   void AnswerForm(std::function<void(Form&)> user) { form_answers_.push_back(std::move(user)); }
   // Empties the queues.
   void ForgetAnswers();
+  // What a user does in the next preview.
+  void AnswerPreview(std::function<void(const Preview&)> user) {
+    preview_answers_.push_back(std::move(user));
+  }
   std::size_t UnusedAnswers() const {
     return question_answers_.size() + box_answers_.size() + file_answers_.size() +
-           form_answers_.size();
+           form_answers_.size() + preview_answers_.size();
   }
 
   // What was shown, in order.
@@ -72,6 +76,9 @@ class HeadlessView : public View {
   BoxAnswer ShowBox(const Box& box) override;
   bool ShowFileDialog(CommonDialog& dialog) override;
   void ShowHelp(CommonDialog& dialog) override;
+  double TextWidth(TextView text, const Font& font) override;
+  FontMeasure MeasureFont(const Font& font) override;
+  void ShowPreview(const Preview& preview) override;
   void SetPointer(Pointer pointer) override { pointer_ = pointer; }
   Extent ScreenSize() override { return screen_; }
 
@@ -83,6 +90,7 @@ class HeadlessView : public View {
   std::deque<BoxAnswer> box_answers_;
   std::deque<Text> file_answers_;
   std::deque<std::function<void(Form&)>> form_answers_;
+  std::deque<std::function<void(const Preview&)>> preview_answers_;
   std::vector<Box> boxes_;
   std::vector<HelpShown> helps_;
   std::vector<Text> file_dialogs_;

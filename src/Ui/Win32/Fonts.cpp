@@ -23,13 +23,14 @@ Fonts::~Fonts() {
 HFONT Fonts::Get(const Font& font, Scale scale) {
   const Text name = font.name.empty() ? Text(kUsualName) : font.name;
   const double size = font.size > 0 ? font.size : kUsualSize;
-  HFONT& handle = fonts_[{name, size, font.bold, scale.dpi}];
+  HFONT& handle = fonts_[{name, size, font.bold, font.italic, scale.dpi}];
   if (handle == nullptr) {
     // The old bitmap font does not scale and is not everywhere: any fixed-pitch font stands in.
     const Text drawn = name == u"Fixedsys" ? Text(u"Courier New") : name;
-    handle = CreateFontW(-scale.Points(size), 0, 0, 0, font.bold ? FW_BOLD : FW_NORMAL, FALSE,
-                         FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                         CLEARTYPE_QUALITY, FamilyOf(name), Wide(drawn));
+    handle =
+        CreateFontW(-scale.Points(size), 0, 0, 0, font.bold ? FW_BOLD : FW_NORMAL,
+                    font.italic ? TRUE : FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                    CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY, FamilyOf(name), Wide(drawn));
   }
   return handle;
 }

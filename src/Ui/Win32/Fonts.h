@@ -16,7 +16,7 @@ class Fonts {
   HFONT Get(const Font& font, Scale scale);
 
  private:
-  using Key = std::tuple<Text, double, bool, int>;
+  using Key = std::tuple<Text, double, bool, bool, int>;
   std::map<Key, HFONT> fonts_;
 };
 

@@ -66,7 +66,8 @@ void FormWindow::CreateWindowAndControls() {
 // What stands on a container lies above it.
 void FormWindow::LowerContainers() {
   for (const auto& control : controls_) {
-    if (control->Model().Kind() != ControlKind::kTabControl) continue;
+    const ControlKind kind = control->Model().Kind();
+    if (kind != ControlKind::kTabControl && kind != ControlKind::kPanel) continue;
     SetWindowPos(control->Handle(), HWND_BOTTOM, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }

@@ -1,6 +1,7 @@
 #include "Ui/Win32/Win32View.h"
 
 #include "Ui/Win32/ControlWindows.h"
+#include "Ui/Win32/PreviewWindow.h"
 
 namespace trovex::win32 {
 namespace {
@@ -110,6 +111,7 @@ void Win32View::Fail(std::exception_ptr error) {
 bool Win32View::PumpOne() {
   MSG message;
   if (ended_ || GetMessageW(&message, nullptr, 0, 0) <= 0) return false;
+  if (preview_ != nullptr && preview_->OnMessage(message)) return !ended_;
   if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
     for (const auto& [form, window] : windows_) {
       const bool mine = message.hwnd == window->Handle() || IsChild(window->Handle(), message.hwnd);
@@ -131,19 +133,38 @@ void Win32View::Run() {
   if (failure_) std::rethrow_exception(failure_);
 }
 
-void Win32View::RunModal(Form& form) {
+void Win32View::RunAlone(const Form* form, const std::function<bool()>& open) {
   std::vector<HWND> disabled;
   for (const auto& [other, window] : windows_) {
-    if (other == &form || !IsWindowEnabled(window->Handle())) continue;
+    if (other == form || !IsWindowEnabled(window->Handle())) continue;
     EnableWindow(window->Handle(), FALSE);
     disabled.push_back(window->Handle());
   }
-  // The form may be unloaded meanwhile, with its window: only the list tells that it is there.
-  while (Of(form) != nullptr && form.Visible() && PumpOne()) {
+  while (open() && PumpOne()) {
   }
   for (HWND window : disabled) EnableWindow(window, TRUE);
   if (!disabled.empty()) SetActiveWindow(disabled.back());
   if (ended_) PostQuitMessage(0);
+}
+
+void Win32View::RunModal(Form& form) {
+  // The form may be unloaded meanwhile, with its window: only the list tells that it is there.
+  RunAlone(&form, [&] { return Of(form) != nullptr && form.Visible(); });
+}
+
+void Win32View::ShowPreview(const Preview& preview) {
+  PreviewWindow window(preview, *this, Owner());
+  preview_ = &window;
+  RunAlone(nullptr, [&] { return window.Open(); });
+  preview_ = nullptr;
+}
+
+double Win32View::TextWidth(TextView text, const Font& font) {
+  return measure_.Width(text, font);
+}
+
+FontMeasure Win32View::MeasureFont(const Font& font) {
+  return measure_.MeasureOf(font);
 }
 
 }  // namespace trovex::win32

@@ -2,14 +2,18 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
 
 #include "Ui/View.h"
 #include "Ui/Win32/FormWindow.h"
+#include "Ui/Win32/PagePainter.h"
 
 namespace trovex::win32 {
+
+class PreviewWindow;
 
 class Win32View : public View {
  public:
@@ -24,6 +28,7 @@ class Win32View : public View {
   void Fail(std::exception_ptr error);
 
   Shared& GetShared() { return shared_; }
+  PrintMeasure& Measure() { return measure_; }
   Pointer GetPointer() const { return pointer_; }
   FormWindow* Of(const Form& form) const;
 
@@ -39,6 +44,9 @@ class Win32View : public View {
   BoxAnswer ShowBox(const Box& box) override;
   bool ShowFileDialog(CommonDialog& dialog) override;
   void ShowHelp(CommonDialog& dialog) override;
+  double TextWidth(TextView text, const Font& font) override;
+  FontMeasure MeasureFont(const Font& font) override;
+  void ShowPreview(const Preview& preview) override;
   void SetPointer(Pointer pointer) override;
   Extent ScreenSize() override;
 
@@ -48,11 +56,15 @@ class Win32View : public View {
   HWND Owner() const;
   // Handles one message; false at the end of the program.
   bool PumpOne();
+  // Hands messages out while `open` is true, with all windows disabled but one form's.
+  void RunAlone(const Form* form, const std::function<bool()>& open);
 
   Shared shared_;
+  PrintMeasure measure_{shared_.fonts};
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
   std::vector<std::unique_ptr<FormWindow>> gone_;  // detached while a message of theirs was handled
   Pointer pointer_ = Pointer::kDefault;
+  PreviewWindow* preview_ = nullptr;  // while one is shown
   bool ended_ = false;
   std::exception_ptr failure_;
 };

@@ -1,0 +1,32 @@
+#include "Export/LIB_OBJECT_GRID.h"
+#include "Export/PrtPreview.h"
+#include "Lib/LIB_BUSY.h"
+#include "Resources/Strings.h"
+#include "Screen/Events.h"
+
+namespace trovex {
+namespace {
+
+constexpr StringId kTitres[kTableCount] = {
+    StringId::kImprimeInstallation, StringId::kImprimeExecutables, StringId::kImprimeArchives};
+
+}  // namespace
+
+void Exporter_Click(MainForm& form) {
+  GridExportAscii(form.GridLogiciel(form.ZoneDesTableaux.Tab()));
+}
+
+void Imprimer_Click(MainForm& form) {
+  BusyOn();
+  const int iTableau = form.ZoneDesTableaux.Tab();
+  PrtPreview().DisplayGridLandscape(form.GridLogiciel(iTableau), ResString(kTitres[iTableau]));
+  BusyOff();
+}
+
+void PrintTexte_Click(MainForm& form) {
+  BusyOn();
+  PrtPreview().DisplayTextBoxPortrait(form.TextInfo(0));
+  BusyOff();
+}
+
+}  // namespace trovex
