@@ -84,18 +84,19 @@ Text sRepertoireSysteme() {
   return DirectoryOf(&Platform::GetSystemDirectory);
 }
 
-bool bFichierExiste(TextView sNom) {
+bool bFichierExiste(const Text& sNom) {
   TextView sCherche = Trimmed(sNom);
   if (sCherche.ends_with(u'\\')) sCherche.remove_suffix(1);
-  return !sCherche.empty() && bExisteAttribut(sCherche, 0);
+  if (sCherche.size() == sNom.size()) return bExisteAttribut(sNom, 0);
+  return bExisteAttribut(Text(sCherche), 0);
 }
 
-bool bExisteAttribut(TextView sNom, std::uint32_t iAttributs) {
+bool bExisteAttribut(const Text& sNom, std::uint32_t iAttributs) {
   try {
-    Text sMotif(sNom);
+    if (sNom.empty()) return false;
     // A search of a drive or a directory looks at what it holds.
-    if (sMotif.ends_with(u':') || sMotif.ends_with(u'\\')) sMotif += u"*.*";
-    return !sMotif.empty() && Finds(sMotif, iAttributs);
+    const bool bContenu = sNom.ends_with(u':') || sNom.ends_with(u'\\');
+    return bContenu ? Finds(sNom + u"*.*", iAttributs) : Finds(sNom, iAttributs);
   } catch (const RuntimeError&) {
     return false;
   }

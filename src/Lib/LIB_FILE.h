@@ -26,10 +26,10 @@ Text sRepertoireWindows();
 Text sRepertoireSysteme();
 
 // True for a plain file that is neither hidden nor a system file. An empty name gives false.
-bool bFichierExiste(TextView sNom);
+bool bFichierExiste(const Text& sNom);
 // True if a directory search for the name finds an entry that has no other special attribute than
 // `iAttributs`. Every error gives false.
-bool bExisteAttribut(TextView sNom, std::uint32_t iAttributs);
+bool bExisteAttribut(const Text& sNom, std::uint32_t iAttributs);
 bool bRepertoireExiste(TextView sChemin);
 // True if neither is empty and what stands behind the last point of each is the same without
 // regard to case. A name without a point compares whole.

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "Platform/RuntimeError.h"
@@ -110,6 +111,8 @@ struct ProcessEntry {
   Text szExeFile;  // name of the program, 259 characters at most
 };
 
+class HeldDirectory;
+
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -128,6 +131,12 @@ class Platform {
   // The next entry; false, and `data` untouched, at the end or on kInvalid.
   virtual bool FindNextFile(FindHandle handle, FindData& data) = 0;
   virtual void FindClose(FindHandle handle) = 0;
+
+  // Reads a directory and holds it, see Platform/HeldDirectory.h. Null where a search for "*.*"
+  // finds nothing: a missing or unreadable directory, an empty root. Unless an implementation has a
+  // shorter way, the directory in hand goes through the operations of this class, so that who
+  // overrides one of them need not think of it.
+  virtual std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory);
 
   // --- Files ------------------------------------------------------------------------------
 

@@ -9,9 +9,8 @@
 namespace trovex {
 namespace {
 
-constexpr std::size_t kListings = 8;       // directories kept beside those being walked
-constexpr std::size_t kUsualEntries = 16;  // of a directory, and the characters of their names
-constexpr std::size_t kUsualNames = 192;
+constexpr std::size_t kOnTheWay = 64;        // directories held above the one in hand
+constexpr std::size_t kBeside = 8;           // other directories held
 constexpr std::size_t kRecords = 8;          // version records kept
 constexpr std::size_t kProfiles = 32;        // profile answers kept
 constexpr std::size_t kSharedFiles = 16;     // files kept open for a directory
@@ -27,115 +26,18 @@ std::pair<TextView, TextView> Split(TextView name) {
   return {name.substr(0, backslash + 1), name.substr(backslash + 1)};
 }
 
-int Compare(TextView a, TextView b) {
-  const std::size_t size = std::min(a.size(), b.size());
-  for (std::size_t i = 0; i < size; ++i) {
-    const char16_t x = ToUpper(a[i]), y = ToUpper(b[i]);
-    if (x != y) return x < y ? -1 : 1;
-  }
-  return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
-}
-
-bool MatchesAll(TextView pattern) {
-  return pattern == u"*.*" || pattern == u"*";
+bool StartsWithNoCase(TextView text, TextView start) {
+  return EqualsNoCase(text.substr(0, start.size()), start);
 }
 
 }  // namespace
-
-// The entries of one directory, their names in one piece.
-class ScanCache::Listing {
- public:
-  Listing(Platform& platform, TextView directory) : directory_(directory) {
-    FindData data;
-    const FindHandle handle = platform.FindFirstFile(directory_ + u"*.*", data);
-    if (handle == FindHandle::kInvalid) return;
-    readable_ = true;
-    names_.reserve(kUsualNames);
-    entries_.reserve(kUsualEntries);
-    do {
-      Add(data);
-    } while (platform.FindNextFile(handle, data));
-    platform.FindClose(handle);
-    Sort();
-  }
-
-  const Text& Directory() const { return directory_; }
-  bool Readable() const { return readable_; }
-  std::size_t Size() const { return entries_.size(); }
-
-  // Entries in the platform's order.
-  TextView Name(std::size_t i) const {
-    const std::size_t end = i + 1 < entries_.size() ? entries_[i + 1].begin : names_.size();
-    return TextView(names_).substr(entries_[i].begin, end - entries_[i].begin);
-  }
-  std::uint32_t Attributes(std::size_t i) const { return entries_[i].attributes; }
-
-  // Number of the entry of that name, Size() if there is none.
-  std::size_t Find(TextView name) const {
-    const auto found = std::lower_bound(
-        sorted_.begin(), sorted_.end(), name,
-        [&](std::uint32_t i, TextView wanted) { return Compare(Name(i), wanted) < 0; });
-    const bool hit = found != sorted_.end() && Compare(Name(*found), name) == 0;
-    return hit ? *found : Size();
-  }
-
- private:
-  struct Entry {
-    std::uint32_t begin;  // of the name in names_
-    std::uint32_t attributes;
-  };
-
-  void Add(const FindData& data) {
-    entries_.push_back({static_cast<std::uint32_t>(names_.size()), data.attributes});
-    names_ += data.name;
-  }
-
-  void Sort() {
-    sorted_.resize(entries_.size());
-    for (std::uint32_t i = 0; i < sorted_.size(); ++i) sorted_[i] = i;
-    const auto before = [&](std::uint32_t a, std::uint32_t b) {
-      return Compare(Name(a), Name(b)) < 0;
-    };
-    if (!std::is_sorted(sorted_.begin(), sorted_.end(), before)) {
-      std::sort(sorted_.begin(), sorted_.end(), before);
-    }
-  }
-
-  Text directory_;
-  bool readable_ = false;
-  Text names_;
-  std::vector<Entry> entries_;
-  std::vector<std::uint32_t> sorted_;
-};
-
-// A search within a listing, and where it stands.
-struct ScanCache::Search {
-  Search(std::shared_ptr<const Listing> entries, TextView wanted)
-      : listing(std::move(entries)), pattern(wanted), all(MatchesAll(wanted)) {}
-
-  std::shared_ptr<const Listing> listing;
-  Text pattern;
-  bool all;
-  std::size_t next = 0;
-
-  bool Advance(FindData& data) {
-    for (; next < listing->Size(); ++next) {
-      const TextView name = listing->Name(next);
-      if (!all && !MatchesPattern(name, pattern)) continue;
-      data.name = name;
-      data.attributes = listing->Attributes(next++);
-      return true;
-    }
-    return false;
-  }
-};
 
 // A file that is open beneath for as long as its directory is in hand. What was read of it is
 // kept, up to a limit, for whoever reads it again from the start.
 class ScanCache::SharedFile {
  public:
-  SharedFile(Platform& platform, const Text& name)
-      : platform_(platform), handle_(platform.OpenRead(name)) {}
+  // Takes over the open file.
+  SharedFile(Platform& platform, FileHandle file) : platform_(platform), handle_(file) {}
   ~SharedFile() {
     try {
       platform_.Close(handle_);
@@ -205,35 +107,73 @@ ScanCache::~ScanCache() {
   Target().Forget();
 }
 
-std::shared_ptr<const ScanCache::Listing> ScanCache::ListingOf(TextView directory) {
-  const auto known = std::find_if(listings_.begin(), listings_.end(), [&](const auto& listing) {
-    return EqualsNoCase(listing->Directory(), directory);
+// `directory` with its final backslash.
+const ScanCache::Held& ScanCache::HeldOf(TextView directory) {
+  const auto known = std::find_if(held_.begin(), held_.end(), [&](const Held& held) {
+    return EqualsNoCase(held.name, directory);
   });
-  if (known != listings_.end()) {
-    listings_.splice(listings_.begin(), listings_, known);
+  if (known != held_.end()) {
+    held_.splice(held_.begin(), held_, known);
   } else {
-    listings_.push_front(std::make_shared<const Listing>(Target(), directory));
-    if (listings_.size() > kListings) listings_.pop_back();
+    held_.push_front({Text(directory), OpenBeneath(directory)});
+    DropFarFrom(directory);
   }
-  return listings_.front();
+  return held_.front();
+}
+
+// From the directory above, if that is held: so the way to it is not looked for again.
+std::shared_ptr<HeldDirectory> ScanCache::OpenBeneath(TextView directory) {
+  const auto [parent, level] = Split(directory.substr(0, directory.size() - 1));
+  for (const Held& held : held_) {
+    if (!held.directory || !EqualsNoCase(held.name, parent)) continue;
+    ListedEntry entry;
+    if (!held.directory->Entries()->Find(level, entry)) break;
+    if (auto opened = held.directory->OpenDirectory(entry)) return opened;
+    break;
+  }
+  return Target().OpenDirectory(Text(directory));
+}
+
+// The walk comes back to the directories above; of those beside, the last few will do.
+void ScanCache::DropFarFrom(TextView directory) {
+  std::size_t above = 0, beside = 0;
+  held_.remove_if([&](const Held& held) {
+    return StartsWithNoCase(directory, held.name) ? ++above > kOnTheWay : ++beside > kBeside;
+  });
+}
+
+std::optional<ScanCache::Place> ScanCache::Find(TextView name) {
+  const auto [directory, last] = Split(name);
+  if (directory.empty() || last.empty()) return std::nullopt;
+  const Held& held = HeldOf(directory);
+  ListedEntry entry;
+  if (!held.directory || !held.directory->Entries()->Find(last, entry)) return std::nullopt;
+  return Place{*held.directory, entry};
 }
 
 FindHandle ScanCache::FindFirstFile(const Text& pattern, FindData& data) {
   data = {};
   const auto [directory, last] = Split(pattern);
-  if (directory.empty() || last.empty()) return Target().FindFirstFile(pattern, data);
-  std::shared_ptr<const Listing> listing = ListingOf(directory);
-  if (!listing->Readable()) return FindHandle::kInvalid;
-  if (HasWildcard(last)) return Begin(Search(std::move(listing), last), data);
-  const std::size_t found = listing->Find(last);
-  if (found == listing->Size()) return FindHandle::kInvalid;
-  data.attributes = listing->Attributes(found);
-  data.name = listing->Name(found);
+  if (directory.empty() || last.empty() || last == u"." || last == u"..") {
+    return Target().FindFirstFile(pattern, data);
+  }
+  const Held& held = HeldOf(directory);
+  if (!held.directory) return FindHandle::kInvalid;
+  const std::shared_ptr<const DirectoryEntries>& entries = held.directory->Entries();
+  if (HasWildcard(last)) {
+    const bool dots = held.directory->HasDots();
+    const auto first = dots ? EntrySearch::Dots::kFirst : EntrySearch::Dots::kNone;
+    return Begin(EntrySearch(entries, last, first), data);
+  }
+  ListedEntry entry;
+  if (!entries->Find(last, entry)) return FindHandle::kInvalid;
+  data.attributes = entry.attributes;
+  data.name = entry.name;
   // The search is at its end before it is asked again.
   return static_cast<FindHandle>(kOwnHandles + next_handle_++);
 }
 
-FindHandle ScanCache::Begin(Search search, FindData& data) {
+FindHandle ScanCache::Begin(EntrySearch search, FindData& data) {
   if (!search.Advance(data)) return FindHandle::kInvalid;
   const std::int64_t handle = kOwnHandles + next_handle_++;
   searches_.emplace(handle, std::move(search));
@@ -256,6 +196,22 @@ void ScanCache::FindClose(FindHandle handle) {
   searches_.erase(number);
 }
 
+std::shared_ptr<HeldDirectory> ScanCache::OpenDirectory(const Text& directory) {
+  if (directory.ends_with(u'\\')) return HeldOf(directory).directory;
+  return directory.empty() ? nullptr : HeldOf(directory + u'\\').directory;
+}
+
+bool ScanCache::GetFileStatus(const Text& name, FileStatus& status) {
+  const auto place = Find(name);
+  return place ? place->directory.GetFileStatus(place->entry, status)
+               : Target().GetFileStatus(name, status);
+}
+
+FileHandle ScanCache::OpenFileBeneath(const Text& name) {
+  const auto place = Find(name);
+  return place ? place->directory.OpenRead(place->entry) : Target().OpenRead(name);
+}
+
 FileHandle ScanCache::OpenRead(const Text& name) {
   const TextView directory = Split(name).first;
   if (!EqualsNoCase(directory, files_of_)) {
@@ -265,7 +221,7 @@ FileHandle ScanCache::OpenRead(const Text& name) {
   const Text key = ToUpper(name);
   auto known = files_.find(key);
   if (known == files_.end()) {
-    auto file = std::make_shared<SharedFile>(Target(), name);
+    auto file = std::make_shared<SharedFile>(Target(), OpenFileBeneath(name));
     if (files_.size() >= kSharedFiles) files_.clear();
     known = files_.emplace(key, std::move(file)).first;
   }
@@ -285,7 +241,7 @@ std::size_t ScanCache::Read(FileHandle file, void* buffer, std::size_t size) {
     reader.place += read;
     return read;
   }
-  reader.own = Target().OpenRead(reader.name);
+  reader.own = OpenFileBeneath(reader.name);
   std::string skipped(kSharedBytes, '\0');
   for (std::size_t left = kSharedBytes; left > 0;) {
     const std::size_t read = Target().Read(reader.own, skipped.data(), left);
@@ -323,6 +279,14 @@ void ScanCache::DeleteFile(const Text& name) {
   Target().DeleteFile(name);
 }
 
+std::string ScanCache::ReadRecord(const Text& name) {
+  if (const auto place = Find(name)) return place->directory.ReadVersionRecord(place->entry);
+  const std::uint32_t length = Target().GetFileVersionInfoSize(name);
+  std::string block;
+  if (length == 0 || !Target().GetFileVersionInfo(name, length, block)) return {};
+  return block;
+}
+
 const ScanCache::Record& ScanCache::RecordOf(const Text& name) {
   const auto known = std::find_if(records_.begin(), records_.end(), [&](const Record& record) {
     return EqualsNoCase(record.name, name);
@@ -333,9 +297,7 @@ const ScanCache::Record& ScanCache::RecordOf(const Text& name) {
     if (std::next(known) != records_.end()) records_.splice(records_.begin(), records_, known);
     return *known;
   }
-  Record record{name, {}};
-  const std::uint32_t length = Target().GetFileVersionInfoSize(name);
-  if (length > 0 && !Target().GetFileVersionInfo(name, length, record.block)) record.block.clear();
+  Record record{name, ReadRecord(name)};
   // The analysis comes back to the first file of a directory.
   if (!records_.empty() && !EqualsNoCase(Split(records_.front().name).first, Split(name).first)) {
     records_.clear();
@@ -365,7 +327,12 @@ std::uint32_t ScanCache::GetPrivateProfileString(const Text& section, const Text
   });
   if (known == profiles_.end()) {
     Profile asked{section, key, fallback, file, size, {}};
-    Target().GetPrivateProfileString(section, key, fallback, asked.answer, size, file);
+    if (const auto place = Find(file)) {
+      place->directory.GetPrivateProfileString(section, key, fallback, asked.answer, size,
+                                               place->entry);
+    } else {
+      Target().GetPrivateProfileString(section, key, fallback, asked.answer, size, file);
+    }
     profiles_.push_front(std::move(asked));
     if (profiles_.size() > kProfiles) profiles_.pop_back();
   } else {
@@ -393,7 +360,7 @@ void ScanCache::DropFiles() {
 
 void ScanCache::DropAll() {
   DropFiles();
-  listings_.clear();
+  held_.clear();
   records_.clear();
   profiles_.clear();
 }

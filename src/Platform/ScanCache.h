@@ -5,14 +5,16 @@
 #include <list>
 #include <map>
 #include <memory>
-#include <vector>
+#include <optional>
 
+#include "Platform/EntrySearch.h"
 #include "Platform/ForwardingPlatform.h"
 
 namespace trovex {
 
-// Lives for one scan: what changes on the disk meanwhile may go unseen until the next one. Bounded
-// in memory, whatever the tree: the directories on the way down and the last few beside them.
+// Lives for one scan: what changes on the disk meanwhile may go unseen until the next one. It holds
+// the directories on the way down and the last few beside them, a bounded number whatever the tree,
+// and reaches files and subdirectories through them.
 class ScanCache : public ForwardingPlatform {
  public:
   explicit ScanCache(Platform& target);
@@ -21,7 +23,9 @@ class ScanCache : public ForwardingPlatform {
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool FindNextFile(FindHandle handle, FindData& data) override;
   void FindClose(FindHandle handle) override;
+  std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override;
 
+  bool GetFileStatus(const Text& name, FileStatus& status) override;
   FileHandle OpenRead(const Text& name) override;
   FileHandle OpenWrite(const Text& name) override;
   std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
@@ -40,21 +44,35 @@ class ScanCache : public ForwardingPlatform {
   void Forget() override;
 
  private:
-  class Listing;
   class SharedFile;
-  struct Search;
   struct Reader;
   struct Record;
   struct Profile;
 
-  std::shared_ptr<const Listing> ListingOf(TextView directory);
-  FindHandle Begin(Search search, FindData& data);
+  // A directory by its name with the final backslash; null where it is missing or unreadable.
+  struct Held {
+    Text name;
+    std::shared_ptr<HeldDirectory> directory;
+  };
+  // A name found in a directory that is held.
+  struct Place {
+    HeldDirectory& directory;
+    ListedEntry entry;
+  };
+
+  const Held& HeldOf(TextView directory);
+  std::shared_ptr<HeldDirectory> OpenBeneath(TextView directory);
+  void DropFarFrom(TextView directory);
+  std::optional<Place> Find(TextView name);
+  FileHandle OpenFileBeneath(const Text& name);
+  FindHandle Begin(EntrySearch search, FindData& data);
+  std::string ReadRecord(const Text& name);
   const Record& RecordOf(const Text& name);
   void DropFiles();
   void DropAll();
 
-  std::list<std::shared_ptr<const Listing>> listings_;  // the latest first
-  std::map<std::int64_t, Search> searches_;
+  std::list<Held> held_;  // the latest first
+  std::map<std::int64_t, EntrySearch> searches_;
   std::map<std::int64_t, Reader> readers_;
   std::int64_t next_handle_ = 1;
 

@@ -26,6 +26,11 @@ constexpr int kDecoration = 10;                  // characters in a row that mak
 constexpr TextView kTools[] = {u"_ISDEL.EXE", u"_ISETUP.EXE", u"_MSSETUP.EXE", u"_MSTEST.EXE",
                                u"EXPAND.EXE"};
 
+// The files that a description is taken from.
+constexpr TextView kDescriptions[] = {u"SETUP.LST",   u"SETUP.INI",    u"INSTALL.INF",
+                                      u"file_id.diz", u"lisezmoi.txt", u"readme.txt",
+                                      u"INSTALL.TXT"};
+
 bool IsTool(const Text& sFichier) {
   return std::any_of(std::begin(kTools), std::end(kTools),
                      [&](TextView tool) { return EqualsNoCase(sFichier, tool); });
@@ -42,16 +47,19 @@ Text Shortened(const Text& sDescription) {
 class Analysis {
  public:
   Analysis(Grid& grid, const Text& sPath, const Text& sFichier)
-      : grid_(grid), sPath_(sPath), sFichier_(sFichier), D_(sAjouteBackslash(sPath)) {}
+      : grid_(grid),
+        sPath_(sPath),
+        sFichier_(sFichier),
+        sDossier_(sAjouteBackslash(sPath)),
+        iDossier_(sDossier_.size()),
+        bArchive_(bEstExtension(sFichier, u"zip")) {}
 
   void Run() {
-    oInfo_.PutFileName(D_ + Trim(sFichier_));
+    const bool bDecrire = NeedsDescription();
+    oInfo_.PutFileName(Beside(Trimmed(sFichier_)),
+                       bDecrire ? zFileInfo::Parts::kAll : zFileInfo::Parts::kStatus);
     PlaceRow();
-    Put(Shortened(oInfo_.zDescription()));
-    ReadInstallerFiles();
-    if (Current().empty()) ReadTextFiles();
-    const TextView trimmed = Trimmed(Current());
-    if (trimmed.empty() || ToUpper(trimmed) == u"INSTALLSHIELD") ReadTextFilesAgain();
+    if (bDecrire) Describe();
     PutSizeOrVersion();
     CleanDescription();
     FillVersion();
@@ -60,14 +68,28 @@ class Analysis {
  private:
   const Text& Current() const { return grid_.GetText(); }
   void Put(TextView sTexte) { grid_.SetText(sTexte); }
-  Text Beside(TextView sNom) const {
-    Text sFile;
-    sFile.reserve(D_.size() + sNom.size());
-    sFile.append(D_).append(sNom);
-    return sFile;
+  // The name of a file of this directory; good until the next call.
+  const Text& Beside(TextView sNom) {
+    sDossier_.resize(iDossier_);
+    return sDossier_.append(sNom);
   }
-  bool Exists(TextView sNom) const { return bFichierExiste(Beside(sNom)); }
-  bool IsArchive() const { return bEstExtension(sFichier_, u"zip"); }
+  bool Exists(TextView sNom) { return bFichierExiste(Beside(sNom)); }
+  bool IsArchive() const { return bArchive_; }
+
+  // An archive shows its size, whatever its description: that is looked for only where a file
+  // beside it may turn out to be unreadable, which is reported all the same.
+  bool NeedsDescription() {
+    return !IsArchive() || std::any_of(std::begin(kDescriptions), std::end(kDescriptions),
+                                       [this](TextView sNom) { return Exists(sNom); });
+  }
+
+  void Describe() {
+    Put(Shortened(oInfo_.zDescription()));
+    ReadInstallerFiles();
+    if (Current().empty()) ReadTextFiles();
+    const TextView trimmed = Trimmed(Current());
+    if (trimmed.empty() || EqualsNoCase(trimmed, u"INSTALLSHIELD")) ReadTextFilesAgain();
+  }
 
   void PlaceRow() {
     grid_.SetRow(iGetClearLineGrid(grid_, kColFichier, true, TextView()));
@@ -135,7 +157,7 @@ class Analysis {
   // The first line, or where the line check leaves nothing of it the second, each cut to so many
   // characters.
   void PutLines(TextView sNom, std::size_t iPremiere, std::size_t iDeuxieme) {
-    const Text sFile = Beside(sNom);
+    const Text& sFile = Beside(sNom);
     PutLine(sPremiereLigne(sFile, iPremiere));
     CheckLine();
     if (Current().empty()) PutLine(sDeuxiemeLigne(sFile, iDeuxieme));
@@ -189,7 +211,9 @@ class Analysis {
   Grid& grid_;
   const Text& sPath_;
   const Text& sFichier_;
-  const Text D_;
+  Text sDossier_;  // with its final backslash, and behind that the name asked for last
+  const std::size_t iDossier_;
+  const bool bArchive_;
   zFileInfo oInfo_;
 };
 

@@ -11,35 +11,17 @@ constexpr std::size_t kDateLength = 10;
 constexpr std::size_t kTimeLength = 8;
 constexpr std::size_t kKoCut = 4;  // the last group and its blank
 
-// A key of the record and where its value stands behind the key's start: the key, a NUL and the
-// padding to a four-byte boundary, as in the 8-bit layout of a version record.
-struct Key {
-  const char* name;
-  std::size_t offset;
-  void (zFileInfo::*put)(Text);
-};
-
-constexpr Key kKeys[] = {
-    {"CompanyName", 12, &zFileInfo::zCompanyName},
-    {"FileDescription", 16, &zFileInfo::zDescription},
-    {"FileVersion", 12, &zFileInfo::zVersion},
-    {"InternalName", 16, &zFileInfo::zInternalName},
-    {"LegalCopyright", 16, &zFileInfo::zCopyright},
-    {"OriginalFilename", 20, &zFileInfo::zOriginalName},
-    {"ProductName", 12, &zFileInfo::zProductName},
-    {"ProductVersion", 16, &zFileInfo::zProductVersion},
-};
 
 }  // namespace
 
-void zFileInfo::PutFileName(const Text& sFileName) {
+void zFileInfo::PutFileName(const Text& sFileName, Parts parts) {
   ViderChamps();
   if (Trimmed(sFileName).empty()) return;
   try {
     FileStatus status;
     if (!CurrentPlatform().GetFileStatus(sFileName, status)) return;
-    TakeStatus(status);
-    TakeRecord(ReadVersionRecord(sFileName));
+    status_ = status;
+    if (parts == Parts::kAll) record_ = ReadVersionRecord(sFileName);
   } catch (const RuntimeError&) {
     // What was filled so far stays.
   }
@@ -49,19 +31,54 @@ void zFileInfo::ViderChamps() {
   *this = zFileInfo();
 }
 
-void zFileInfo::TakeStatus(const FileStatus& status) {
-  zSize_ = sFormatTaille(status.length);
-  if (zSize_.size() > kKoCut) zSizeKo_ = zSize_.substr(0, zSize_.size() - kKoCut);
-  const Text sDate = sFormatDate(status.modified);
-  zDate_ = sDate.substr(0, kDateLength);
-  zTime_ = sDate.substr(sDate.size() - kTimeLength);
+void zFileInfo::Put(Field field, Text value) {
+  texts_[field] = std::move(value);
+  made_.set(field);
 }
 
-void zFileInfo::TakeRecord(const std::string& record) {
-  for (const Key& key : kKeys) {
-    const auto value = BehindKey(record, key.name, key.offset);
-    if (value) (this->*key.put)(FromCp1252(value->substr(0, value->find('\0'))));
+const Text& zFileInfo::Get(Field field) const {
+  if (!made_[field]) {
+    texts_[field] = Made(field);
+    made_.set(field);
   }
+  return texts_[field];
+}
+
+Text zFileInfo::Made(Field field) const {
+  if (field >= kVersion) return FromRecord(field);
+  return status_ ? FromStatus(field) : Text();
+}
+
+Text zFileInfo::FromStatus(Field field) const {
+  const Text sTaille = field == kSize || field == kSizeKo ? sFormatTaille(status_->length) : Text();
+  if (field == kSize) return sTaille;
+  if (field == kSizeKo) {
+    return sTaille.size() > kKoCut ? sTaille.substr(0, sTaille.size() - kKoCut) : Text();
+  }
+  const Text sDate = sFormatDate(status_->modified);
+  return field == kDate ? sDate.substr(0, kDateLength) : sDate.substr(sDate.size() - kTimeLength);
+}
+
+Text zFileInfo::FromRecord(Field field) const {
+  // A key of the record, and where its value stands behind the key's start: the key, a NUL and the
+  // padding to a four-byte boundary, as in the 8-bit layout of a version record.
+  struct Key {
+    Field field;
+    const char* name;
+    std::size_t offset;
+  };
+  static constexpr Key kKeys[] = {
+      {kVersion, "FileVersion", 12},           {kCopyright, "LegalCopyright", 16},
+      {kDescription, "FileDescription", 16},   {kInternalName, "InternalName", 16},
+      {kOriginalName, "OriginalFilename", 20}, {kProductName, "ProductName", 12},
+      {kProductVersion, "ProductVersion", 16}, {kCompanyName, "CompanyName", 12},
+  };
+  for (const Key& key : kKeys) {
+    if (key.field != field) continue;
+    const auto value = BehindKey(record_, key.name, key.offset);
+    if (value) return FromCp1252(value->substr(0, value->find('\0')));
+  }
+  return {};
 }
 
 Text sFormatTaille(std::int64_t iTaille) {

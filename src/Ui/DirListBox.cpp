@@ -30,8 +30,8 @@ Text Resolved(TextView path) {
 void DirListBox::SetPath(TextView path) {
   const Text directory = Resolved(path);
   std::vector<Text> children;
-  const bool found = ReadDirectory(directory, [&](const FindData& entry) {
-    if ((entry.attributes & kAttributeDirectory) != 0) children.push_back(entry.name);
+  const bool found = ReadDirectory(directory, [&](const ListedEntry& entry) {
+    if ((entry.attributes & kAttributeDirectory) != 0) children.emplace_back(entry.name);
   });
   if (!found) {
     const bool root = IsRootPath(directory);

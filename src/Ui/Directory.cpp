@@ -26,17 +26,13 @@ bool DirectoryExists(const Text& directory) {
          (status.attributes & kAttributeDirectory) != 0;
 }
 
-bool ReadDirectory(const Text& directory, const std::function<void(const FindData&)>& visit) {
-  if (directory.empty()) return false;  // a search would look at the root
-  Platform& platform = CurrentPlatform();
-  FindData data;
-  const FindHandle handle = platform.FindFirstFile(WithBackslash(directory) + u"*.*", data);
-  // An empty root and an unreadable directory find nothing, as a missing one does.
-  if (handle == FindHandle::kInvalid) return DirectoryExists(directory);
-  do {
-    if (data.name != u"." && data.name != u"..") visit(data);
-  } while (platform.FindNextFile(handle, data));
-  platform.FindClose(handle);
+bool ReadDirectory(const Text& directory, const std::function<void(const ListedEntry&)>& visit) {
+  if (directory.empty()) return false;
+  const auto held = CurrentPlatform().OpenDirectory(directory);
+  // An empty root and an unreadable directory are not opened either.
+  if (!held) return DirectoryExists(directory);
+  ListedEntry entry;
+  for (std::size_t place = 0; held->Entries()->Next(place, entry);) visit(entry);
   return true;
 }
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "Platform/Platform.h"
+#include "Platform/HeldDirectory.h"
 
 namespace trovex {
 
@@ -18,6 +18,6 @@ bool DirectoryExists(const Text& directory);
 
 // Calls `visit` for each entry but "." and "..", in the platform's order. False if there is no such
 // directory; an unreadable one counts as empty.
-bool ReadDirectory(const Text& directory, const std::function<void(const FindData&)>& visit);
+bool ReadDirectory(const Text& directory, const std::function<void(const ListedEntry&)>& visit);
 
 }  // namespace trovex

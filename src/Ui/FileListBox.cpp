@@ -60,8 +60,8 @@ void FileListBox::Read(const Text& path, TextView pattern) {
                        [&](TextView one) { return MatchesPattern(name, one); });
   };
   std::vector<Text> names;
-  const bool found = ReadDirectory(path, [&](const FindData& entry) {
-    if (Takes(entry.attributes) && matches(entry.name)) names.push_back(entry.name);
+  const bool found = ReadDirectory(path, [&](const ListedEntry& entry) {
+    if (Takes(entry.attributes) && matches(entry.name)) names.emplace_back(entry.name);
   });
   if (!found) throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
   if (!std::is_sorted(names.begin(), names.end(), ListOrder)) {

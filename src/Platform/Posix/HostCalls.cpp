@@ -9,7 +9,6 @@
 namespace trovex::posix {
 namespace {
 
-constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr std::size_t kLongestPath = PATH_MAX - 1;
 
 // A path as the ...at() calls want it: a directory and a rest that is short enough.

@@ -11,6 +11,9 @@
 
 namespace trovex::posix {
 
+// A file without any of these bits is the program's read-only file.
+inline constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+
 // All paths are absolute. What fails says so as the system call does, with the reason in errno.
 FileDescriptor OpenHostPath(const std::string& path, int flags, mode_t mode = 0666);
 bool StatHost(const std::string& path, struct stat& status);      // of a link: its target

@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "Platform/Text.h"
+#include "Platform/HeldDirectory.h"
+#include "Platform/Posix/FileDescriptor.h"
 
 namespace trovex::posix {
 
@@ -28,33 +29,47 @@ struct DirectoryEntry {
 // An immutable snapshot of one directory, in ascending order of the upper-cased names, compared
 // code unit by code unit. No two names are the same without regard to case: of names that differ
 // only in case the first keeps its own, the others show as stem~2.ext, stem~3.ext...
-class Listing {
+class Listing : public DirectoryEntries {
  public:
+  // Reads an open directory. Null with the reason in errno.
+  static std::shared_ptr<const Listing> Read(const FileDescriptor& directory);
   // Reads a directory that is no link. Null with the reason in errno.
   static std::shared_ptr<const Listing> Read(const std::string& host);
 
   // Entries of every kind; those of kind kOther come with the others.
   std::size_t Count() const { return records_.size(); }
   DirectoryEntry At(std::size_t index) const;
-  // The entry of an upper-cased name.
-  std::optional<DirectoryEntry> Find(TextView upper_name) const;
+  // The entry of a name, in either case.
+  std::optional<DirectoryEntry> Find(TextView name) const;
   // The entry with these bytes as its name on the host.
   std::optional<DirectoryEntry> FindHost(std::string_view host_name) const;
+
+  // Without those of kind kOther; numbers are those of At.
+  bool Next(std::size_t& place, ListedEntry& entry) const override;
+  bool Find(TextView name, ListedEntry& entry) const override;
 
  private:
   // Names lie end to end in three buffers, so that a listing costs few allocations.
   struct Record {
-    std::uint32_t text, host;
-    std::uint16_t length;
-    EntryKind kind;
+    std::uint64_t key = 0;  // of the upper-cased name, which settles most comparisons
+    std::uint32_t text = 0, host = 0;
+    std::uint16_t length = 0;
+    EntryKind kind = EntryKind::kMissing;
   };
 
   void Reserve();
   void Add(std::string_view host_name, EntryKind kind);
   void Arrange();
+  void PutPlainNames();
+  void PutShownNames();
   void Sort();
   void SeparateNames();
   void Rename(Record& record, const Text& name);
+  // Place of the name in records_, Count() if it is not there.
+  std::size_t PlaceOf(TextView name) const;
+  int CompareUpper(const Record& a, const Record& b) const;
+  int CompareUpper(const Record& record, std::uint64_t key, TextView name) const;
+  ListedEntry Listed(std::size_t index) const;
   TextView Name(const Record& record) const;
   TextView Upper(const Record& record) const;
 
@@ -62,7 +77,17 @@ class Listing {
   Text names_;
   Text upper_names_;  // offsets as in names_
   std::string host_names_;
+  bool plain_ = true;  // every host name is ASCII and shows as it is
 };
+
+// Opens a directory that is no link, by its name in an open one; not open, with the reason in
+// errno, for anything else.
+FileDescriptor OpenDirectoryAt(int parent, const char* name);
+// The same for a host path of any length, empty for the host's root.
+FileDescriptor OpenDirectory(const std::string& host);
+
+// What a search tells of an entry.
+std::uint32_t AttributesOf(EntryKind kind, TextView name);
 
 // What a host name looks like to the program, and the host name for a new file of that name. A
 // backslash in a host name shows as U+F05C, since it would read as a separator.

@@ -7,15 +7,14 @@
 #include <chrono>
 #include <vector>
 
-#include "Platform/Encoding.h"
 #include "Platform/Pattern.h"
 #include "Platform/Posix/Errors.h"
+#include "Platform/Posix/FileReads.h"
 #include "Platform/Posix/HostCalls.h"
-#include "Platform/Posix/LocalDate.h"
+#include "Platform/Posix/ListedDirectory.h"
 #include "Platform/Posix/ProfileFile.h"
 #include "Platform/Posix/Replacement.h"
 #include "Platform/Posix/SystemData.h"
-#include "Platform/Posix/VersionResource.h"
 
 namespace trovex {
 
@@ -24,12 +23,6 @@ using namespace posix;
 namespace {
 
 constexpr std::size_t kCopyBuffer = 65536;
-// What stands behind this in a profile file is not read, and a longer file is not written.
-constexpr std::size_t kMaxProfile = 1 << 20;
-constexpr std::size_t kProfilePiece = 4096;  // read at a time, a whole part of kMaxProfile
-
-constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
-
 // True for the errors that a place from memory gives once the disk has changed.
 bool IsStale(int error) {
   return error == ENOENT || error == ENOTDIR || error == ELOOP;
@@ -49,23 +42,6 @@ int FileError(const Place& place) {
   }
   return 0;
 }
-
-// Reads at offsets from an open file.
-class FileSource : public ByteSource {
- public:
-  explicit FileSource(FileDescriptor file) : file_(std::move(file)) {}
-
-  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
-    ssize_t got = 0;
-    do {
-      got = pread(file_.Get(), buffer, size, static_cast<off_t>(offset));
-    } while (got < 0 && errno == EINTR);
-    return got < 0 ? 0 : static_cast<std::size_t>(got);
-  }
-
- private:
-  FileDescriptor file_;
-};
 
 // Opens a file for reading at offsets; 0, or the errno of the failure.
 template <typename Use>
@@ -96,19 +72,6 @@ int CopyContents(int source, Replacement& target) {
     if (got == 0) return 0;
     if (!target.Write(buffer.data(), static_cast<std::size_t>(got))) return errno;
   }
-}
-
-int ReadProfile(const std::string& host, std::string& bytes) {
-  const FileDescriptor file = OpenHostFile(host);
-  if (!file.IsOpen()) return errno;
-  char piece[kProfilePiece];
-  while (bytes.size() < kMaxProfile) {
-    const std::ptrdiff_t got = ReadFully(file.Get(), piece, sizeof piece);
-    if (got < 0) return errno;
-    bytes.append(piece, static_cast<std::size_t>(got));
-    if (static_cast<std::size_t>(got) < sizeof piece) break;
-  }
-  return 0;
 }
 
 int ReplaceFile(const std::string& host, const std::string& bytes) {
@@ -173,8 +136,8 @@ FindHandle PosixPlatform::FindFirstFile(const Text& pattern, FindData& data) {
     last_error_ = errno;
     return FindHandle::kInvalid;
   }
-  const auto dots = root ? FindTable::Dots::kNone : FindTable::Dots::kFirst;
-  const FindHandle handle = finds_.Begin(std::move(listing), level, dots, data);
+  const auto dots = root ? EntrySearch::Dots::kNone : EntrySearch::Dots::kFirst;
+  const FindHandle handle = finds_.Begin(EntrySearch(std::move(listing), level, dots), data);
   if (handle == FindHandle::kInvalid) last_error_ = ENOENT;
   return handle;
 }
@@ -205,6 +168,26 @@ void PosixPlatform::FindClose(FindHandle handle) {
   finds_.Close(handle);
 }
 
+std::shared_ptr<HeldDirectory> PosixPlatform::OpenDirectory(const Text& directory) {
+  if (directory.ends_with(u':')) return OpenDirectory(directory + u'\\');  // not the current one
+  FileDescriptor opened;
+  bool root = false;
+  const int error = OnPlace(directory, [&](const Place& place) {
+    if (place.kind != EntryKind::kDirectory) return ENOTDIR;
+    opened = posix::OpenDirectory(place.host);
+    root = place.name.empty();
+    return opened.IsOpen() ? 0 : errno;
+  });
+  if (error != 0) return nullptr;
+  const auto level = root ? ListedDirectory::Level::kRoot : ListedDirectory::Level::kBelow;
+  auto held = ListedDirectory::Read(files_, std::move(opened), level);
+  if (!held) last_error_ = errno;
+  std::size_t start = 0;
+  ListedEntry any;
+  const bool empty_root = held && root && !held->Entries()->Next(start, any);
+  return empty_root ? nullptr : held;
+}
+
 // --- Files --------------------------------------------------------------------------------------
 
 bool PosixPlatform::GetFileStatus(const Text& name, FileStatus& status) {
@@ -212,13 +195,7 @@ bool PosixPlatform::GetFileStatus(const Text& name, FileStatus& status) {
     if (place.kind == EntryKind::kMissing || place.kind == EntryKind::kOther) return ENOENT;
     struct stat host;
     if (!StatHost(place.host, host)) return errno;
-    if (!S_ISREG(host.st_mode) && !S_ISDIR(host.st_mode)) return ENOENT;
-    const bool file = S_ISREG(host.st_mode);
-    status.attributes = AttributesOf(file ? EntryKind::kFile : EntryKind::kDirectory, place.name);
-    if (file && (host.st_mode & kAnyWriteBit) == 0) status.attributes |= kAttributeReadOnly;
-    status.length = file ? host.st_size : 0;
-    status.modified = LocalDate(host.st_mtime);
-    return 0;
+    return StatusOf(host, place.name, status) ? 0 : ENOENT;
   });
   return error == 0;
 }
@@ -337,14 +314,10 @@ std::uint32_t PosixPlatform::GetPrivateProfileString(const Text& section, const 
   std::string bytes;
   const int error = OnPlace(file, [&](const Place& place) {
     const int unusable = FileError(place);
-    return unusable != 0 ? unusable : ReadProfile(place.host, bytes);
+    return unusable != 0 ? unusable : ReadProfile(OpenHostFile(place.host), bytes);
   });
-  std::optional<std::string_view> value;
-  if (error == 0) value = FindProfileValue(bytes, section, key);
-  // Without trailing blanks; none but blanks leaves nothing.
-  buffer = value ? FromCp1252(*value) : fallback.substr(0, fallback.find_last_not_of(u' ') + 1);
-  buffer.resize(std::min<std::size_t>(buffer.size(), size == 0 ? 0 : size - 1));
-  return static_cast<std::uint32_t>(buffer.size());
+  if (error != 0) bytes.clear();
+  return ProfileAnswer(bytes, section, key, fallback, buffer, size);
 }
 
 bool PosixPlatform::WritePrivateProfileString(const Text& section, const Text& key,
@@ -355,7 +328,7 @@ bool PosixPlatform::WritePrivateProfileString(const Text& section, const Text& k
     if (unusable != 0 && unusable != ENOENT) return unusable;
     std::string bytes;
     if (unusable == 0) {
-      if (const int failed = ReadProfile(place.host, bytes)) return failed;
+      if (const int failed = ReadProfile(OpenHostFile(place.host), bytes)) return failed;
     }
     if (bytes.size() == kMaxProfile) return EFBIG;
     return ReplaceFile(place.host, WithProfileValue(bytes, section, key, value));

@@ -1,0 +1,130 @@
+// The directory in hand of a platform that has no better way: every operation goes by full name.
+#include <algorithm>
+#include <vector>
+
+#include "Platform/HeldDirectory.h"
+
+namespace trovex {
+namespace {
+
+int Compare(TextView a, TextView b) {
+  const std::size_t size = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < size; ++i) {
+    const char16_t x = ToUpper(a[i]), y = ToUpper(b[i]);
+    if (x != y) return x < y ? -1 : 1;
+  }
+  return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
+}
+
+// Entries in the order of their coming, their names in one piece.
+class FoundEntries : public DirectoryEntries {
+ public:
+  void Add(const FindData& data) {
+    entries_.push_back({names_.size(), data.attributes});
+    names_ += data.name;
+  }
+
+  // Once all have come.
+  void Sort() {
+    sorted_.resize(entries_.size());
+    for (std::size_t i = 0; i < sorted_.size(); ++i) sorted_[i] = i;
+    std::sort(sorted_.begin(), sorted_.end(),
+              [&](std::size_t a, std::size_t b) { return Compare(Name(a), Name(b)) < 0; });
+  }
+
+  bool Next(std::size_t& place, ListedEntry& entry) const override {
+    if (place >= entries_.size()) return false;
+    entry = At(place++);
+    return true;
+  }
+
+  bool Find(TextView name, ListedEntry& entry) const override {
+    const auto found = std::lower_bound(
+        sorted_.begin(), sorted_.end(), name,
+        [&](std::size_t i, TextView wanted) { return Compare(Name(i), wanted) < 0; });
+    if (found == sorted_.end() || Compare(Name(*found), name) != 0) return false;
+    entry = At(*found);
+    return true;
+  }
+
+ private:
+  struct Entry {
+    std::size_t begin;  // of the name in names_
+    std::uint32_t attributes;
+  };
+
+  TextView Name(std::size_t i) const {
+    const std::size_t end = i + 1 < entries_.size() ? entries_[i + 1].begin : names_.size();
+    return TextView(names_).substr(entries_[i].begin, end - entries_[i].begin);
+  }
+  ListedEntry At(std::size_t i) const { return {i, entries_[i].attributes, Name(i)}; }
+
+  Text names_;
+  std::vector<Entry> entries_;
+  std::vector<std::size_t> sorted_;
+};
+
+class PathDirectory : public HeldDirectory {
+ public:
+  // `directory` with its final backslash; the search has found `first`.
+  PathDirectory(Platform& platform, Text directory, FindHandle search, FindData& first)
+      : platform_(platform), directory_(std::move(directory)) {
+    auto entries = std::make_shared<FoundEntries>();
+    do {
+      const bool dots = first.name == u"." || first.name == u"..";
+      has_dots_ = has_dots_ || dots;
+      if (!dots) entries->Add(first);
+    } while (platform.FindNextFile(search, first));
+    entries->Sort();
+    entries_ = std::move(entries);
+  }
+
+  const std::shared_ptr<const DirectoryEntries>& Entries() const override { return entries_; }
+  bool HasDots() const override { return has_dots_; }
+
+  std::shared_ptr<HeldDirectory> OpenDirectory(const ListedEntry& entry) override {
+    return platform_.OpenDirectory(NameOf(entry));
+  }
+  bool GetFileStatus(const ListedEntry& entry, FileStatus& status) override {
+    return platform_.GetFileStatus(NameOf(entry), status);
+  }
+  FileHandle OpenRead(const ListedEntry& entry) override {
+    return platform_.OpenRead(NameOf(entry));
+  }
+  std::string ReadVersionRecord(const ListedEntry& entry) override {
+    const Text name = NameOf(entry);
+    const std::uint32_t length = platform_.GetFileVersionInfoSize(name);
+    std::string record;
+    if (length < 1 || !platform_.GetFileVersionInfo(name, length, record)) return {};
+    return record;
+  }
+  std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
+                                        Text& buffer, std::uint32_t size,
+                                        const ListedEntry& entry) override {
+    return platform_.GetPrivateProfileString(section, key, fallback, buffer, size, NameOf(entry));
+  }
+
+ private:
+  Text NameOf(const ListedEntry& entry) const { return directory_ + Text(entry.name); }
+
+  Platform& platform_;
+  Text directory_;
+  bool has_dots_ = false;
+  std::shared_ptr<const DirectoryEntries> entries_;
+};
+
+}  // namespace
+
+std::shared_ptr<HeldDirectory> Platform::OpenDirectory(const Text& directory) {
+  if (directory.empty()) return nullptr;  // a search would look at the root
+  Text path = directory;
+  if (!path.ends_with(u'\\')) path += u'\\';
+  FindData data;
+  const FindHandle search = FindFirstFile(path + u"*.*", data);
+  if (search == FindHandle::kInvalid) return nullptr;
+  auto held = std::make_shared<PathDirectory>(*this, std::move(path), search, data);
+  FindClose(search);
+  return held;
+}
+
+}  // namespace trovex

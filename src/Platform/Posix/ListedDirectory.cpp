@@ -1,0 +1,71 @@
+#include "Platform/Posix/ListedDirectory.h"
+
+#include <fcntl.h>
+
+#include <cerrno>
+
+#include "Platform/Posix/Errors.h"
+#include "Platform/Posix/FileReads.h"
+
+namespace trovex::posix {
+
+std::shared_ptr<ListedDirectory> ListedDirectory::Read(FileTable& files, FileDescriptor directory,
+                                                       Level level) {
+  auto listing = Listing::Read(directory);
+  if (!listing) return nullptr;
+  return std::make_shared<ListedDirectory>(files, std::move(directory), level, std::move(listing));
+}
+
+ListedDirectory::ListedDirectory(FileTable& files, FileDescriptor directory, Level level,
+                                 std::shared_ptr<const Listing> listing)
+    : files_(files),
+      directory_(std::move(directory)),
+      level_(level),
+      listing_(std::move(listing)),
+      entries_(listing_) {}
+
+std::shared_ptr<HeldDirectory> ListedDirectory::OpenDirectory(const ListedEntry& entry) {
+  return Read(files_, OpenDirectoryAt(directory_.Get(), HostName(entry)), Level::kBelow);
+}
+
+bool ListedDirectory::GetFileStatus(const ListedEntry& entry, FileStatus& status) {
+  struct stat host;
+  return fstatat(directory_.Get(), HostName(entry), &host, 0) == 0 &&
+         StatusOf(host, entry.name, status);
+}
+
+// The listing has told that this is a regular file: no further question, and should it have become
+// a FIFO meanwhile, opening it does not wait.
+FileDescriptor ListedDirectory::OpenFile(const ListedEntry& entry) const {
+  const DirectoryEntry listed = listing_->At(entry.number);
+  if (listed.kind != EntryKind::kFile) {
+    errno = EISDIR;
+    return FileDescriptor();
+  }
+  const int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+  return FileDescriptor(openat(directory_.Get(), listed.host, flags));
+}
+
+FileHandle ListedDirectory::OpenRead(const ListedEntry& entry) {
+  FileDescriptor file = OpenFile(entry);
+  if (!file.IsOpen()) throw RuntimeError(ErrorNumberOf(errno));
+  return files_.Add(std::move(file));
+}
+
+std::string ListedDirectory::ReadVersionRecord(const ListedEntry& entry) {
+  FileDescriptor file = OpenFile(entry);
+  if (!file.IsOpen()) return {};
+  FileSource source(std::move(file));
+  return posix::ReadVersionRecord(source);
+}
+
+std::uint32_t ListedDirectory::GetPrivateProfileString(const Text& section, const Text& key,
+                                                       const Text& fallback, Text& buffer,
+                                                       std::uint32_t size,
+                                                       const ListedEntry& entry) {
+  std::string bytes;
+  if (ReadProfile(OpenFile(entry), bytes) != 0) bytes.clear();
+  return ProfileAnswer(bytes, section, key, fallback, buffer, size);
+}
+
+}  // namespace trovex::posix
