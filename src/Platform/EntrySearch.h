@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "Platform/HeldDirectory.h"
+#include "Platform/Pattern.h"
 
 namespace trovex {
 
@@ -17,11 +18,8 @@ class EntrySearch {
   bool Advance(FindData& data);
 
  private:
-  bool Matches(TextView name) const;
-
   std::shared_ptr<const DirectoryEntries> entries_;
-  Text pattern_;
-  bool all_;  // the pattern matches every name
+  NamePattern pattern_;
   int dots_;  // how many of "." and ".." are still to come
   std::size_t place_ = 0;
 };

@@ -45,8 +45,8 @@ class HeldDirectory {
   virtual bool GetFileStatus(const ListedEntry& entry, FileStatus& status) = 0;
   // Closed, like any other, by Platform::Close.
   virtual FileHandle OpenRead(const ListedEntry& entry) = 0;
-  // The whole version record, empty where there is none.
-  virtual std::string ReadVersionRecord(const ListedEntry& entry) = 0;
+  virtual bool GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                                 std::string& record) = 0;
   virtual std::uint32_t GetPrivateProfileString(const Text& section, const Text& key,
                                                 const Text& fallback, Text& buffer,
                                                 std::uint32_t size, const ListedEntry& entry) = 0;

@@ -91,12 +91,9 @@ class PathDirectory : public HeldDirectory {
   FileHandle OpenRead(const ListedEntry& entry) override {
     return platform_.OpenRead(NameOf(entry));
   }
-  std::string ReadVersionRecord(const ListedEntry& entry) override {
-    const Text name = NameOf(entry);
-    const std::uint32_t length = platform_.GetFileVersionInfoSize(name);
-    std::string record;
-    if (length < 1 || !platform_.GetFileVersionInfo(name, length, record)) return {};
-    return record;
+  bool GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                         std::string& record) override {
+    return platform_.GetFileProperties(NameOf(entry), status, record);
   }
   std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
                                         Text& buffer, std::uint32_t size,

@@ -53,6 +53,23 @@ bool MatchesPattern(TextView name, TextView pattern) {
          Matches(name, pattern.substr(0, pattern.size() - 2));
 }
 
+NamePattern::NamePattern(TextView pattern) : kind_(Kind::kOther), text_(pattern) {
+  if (pattern == u"*" || pattern == u"*.*") {
+    kind_ = Kind::kAll;
+  } else if (pattern.starts_with(u'*') && !HasWildcard(pattern.substr(1))) {
+    kind_ = Kind::kEnd;
+    text_ = ToUpper(pattern.substr(1));
+  }
+}
+
+bool NamePattern::Matches(TextView name) const {
+  if (kind_ == Kind::kAll) return true;
+  if (kind_ == Kind::kOther) return MatchesPattern(name, text_);
+  return name.size() >= text_.size() &&
+         std::equal(text_.rbegin(), text_.rend(), name.rbegin(),
+                    [](char16_t end, char16_t unit) { return end == ToUpper(unit); });
+}
+
 bool HasWildcard(TextView pattern) {
   return std::any_of(pattern.begin(), pattern.end(),
                      [](char16_t unit) { return unit == u'*' || unit == u'?'; });

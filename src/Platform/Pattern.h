@@ -10,6 +10,20 @@ namespace trovex {
 // before the ".*". Long names only, no 8.3 aliases. Linear in the product of the lengths.
 bool MatchesPattern(TextView name, TextView pattern);
 
+// A pattern that many names are held against.
+class NamePattern {
+ public:
+  explicit NamePattern(TextView pattern);
+  // As MatchesPattern.
+  bool Matches(TextView name) const;
+
+ private:
+  enum class Kind { kAll, kEnd, kOther };
+
+  Kind kind_;
+  Text text_;  // the pattern; of a kEnd ("*.exe") the upper-cased end
+};
+
 // True if the pattern holds * or ?.
 bool HasWildcard(TextView pattern);
 

@@ -9,6 +9,18 @@ Platform* current_platform = nullptr;
 
 }  // namespace
 
+bool Platform::GetFileProperties(const Text& name, FileStatus& status, std::string& record) {
+  record.clear();
+  if (!GetFileStatus(name, status)) return false;
+  try {
+    const std::uint32_t length = GetFileVersionInfoSize(name);
+    if (length > 0 && !GetFileVersionInfo(name, length, record)) record.clear();
+  } catch (const RuntimeError&) {
+    record.clear();
+  }
+  return true;
+}
+
 Platform& CurrentPlatform() {
   assert(current_platform != nullptr);
   return *current_platform;

@@ -172,6 +172,11 @@ class Platform {
   // `block` empty, where there is none.
   virtual bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) = 0;
 
+  // Status and whole version record at once, for whoever wants both. False as GetFileStatus;
+  // `record` is empty where there is none or it cannot be read. Without a shorter way it goes
+  // through the operations above.
+  virtual bool GetFileProperties(const Text& name, FileStatus& status, std::string& record);
+
   // Reads a value from an INI file in Windows-1252. Sections and keys without regard to case; the
   // first matching section and in it the first matching key; blanks and tabs around key and value
   // dropped, one pair of matching quotes around the value dropped; lines beginning with ';' are

@@ -10,8 +10,7 @@ namespace trovex {
 namespace {
 
 constexpr std::size_t kOnTheWay = 64;        // directories held above the one in hand
-constexpr std::size_t kBeside = 8;           // other directories held
-constexpr std::size_t kRecords = 8;          // version records kept
+constexpr std::size_t kHeld = 8;             // directories held on their own account
 constexpr std::size_t kProfiles = 32;        // profile answers kept
 constexpr std::size_t kSharedFiles = 16;     // files kept open for a directory
 constexpr std::size_t kSharedBytes = 65536;  // of each file
@@ -24,10 +23,6 @@ std::pair<TextView, TextView> Split(TextView name) {
   const std::size_t backslash = name.find_last_of(u'\\');
   if (backslash == TextView::npos) return {{}, name};
   return {name.substr(0, backslash + 1), name.substr(backslash + 1)};
-}
-
-bool StartsWithNoCase(TextView text, TextView start) {
-  return EqualsNoCase(text.substr(0, start.size()), start);
 }
 
 }  // namespace
@@ -85,11 +80,6 @@ struct ScanCache::Reader {
   FileHandle own = FileHandle::kInvalid;
 };
 
-struct ScanCache::Record {
-  Text name;
-  std::string block;
-};
-
 struct ScanCache::Profile {
   Text section, key, fallback, file;
   std::uint32_t size;
@@ -109,37 +99,47 @@ ScanCache::~ScanCache() {
 
 // `directory` with its final backslash.
 const ScanCache::Held& ScanCache::HeldOf(TextView directory) {
-  const auto known = std::find_if(held_.begin(), held_.end(), [&](const Held& held) {
-    return EqualsNoCase(held.name, directory);
-  });
-  if (known != held_.end()) {
-    held_.splice(held_.begin(), held_, known);
+  if (!held_.empty() && EqualsNoCase(held_.front()->name, directory)) return *held_.front();
+  std::shared_ptr<Held> held = FindHeld(directory);
+  if (held) {
+    held_.remove(held);
   } else {
-    held_.push_front({Text(directory), OpenBeneath(directory)});
-    DropFarFrom(directory);
+    held = Open(directory);
   }
-  return held_.front();
+  held_.push_front(std::move(held));
+  if (held_.size() > kHeld) held_.pop_back();
+  return *held_.front();
+}
+
+// Among the last ones and those above the latest, to which a walk comes back.
+std::shared_ptr<ScanCache::Held> ScanCache::FindHeld(TextView directory) const {
+  const auto known = std::find_if(held_.begin(), held_.end(), [&](const auto& held) {
+    return EqualsNoCase(held->name, directory);
+  });
+  if (known != held_.end()) return *known;
+  std::shared_ptr<Held> held = held_.empty() ? nullptr : held_.front()->above;
+  while (held && !EqualsNoCase(held->name, directory)) held = held->above;
+  return held;
 }
 
 // From the directory above, if that is held: so the way to it is not looked for again.
-std::shared_ptr<HeldDirectory> ScanCache::OpenBeneath(TextView directory) {
+std::shared_ptr<ScanCache::Held> ScanCache::Open(TextView directory) {
+  auto held = std::make_shared<Held>(Held{Text(directory), nullptr, nullptr});
   const auto [parent, level] = Split(directory.substr(0, directory.size() - 1));
-  for (const Held& held : held_) {
-    if (!held.directory || !EqualsNoCase(held.name, parent)) continue;
-    ListedEntry entry;
-    if (!held.directory->Entries()->Find(level, entry)) break;
-    if (auto opened = held.directory->OpenDirectory(entry)) return opened;
-    break;
+  ListedEntry entry;
+  held->above = FindHeld(parent);
+  if (held->above && held->above->directory &&
+      held->above->directory->Entries()->Find(level, entry)) {
+    held->directory = held->above->directory->OpenDirectory(entry);
   }
-  return Target().OpenDirectory(Text(directory));
-}
-
-// The walk comes back to the directories above; of those beside, the last few will do.
-void ScanCache::DropFarFrom(TextView directory) {
-  std::size_t above = 0, beside = 0;
-  held_.remove_if([&](const Held& held) {
-    return StartsWithNoCase(directory, held.name) ? ++above > kOnTheWay : ++beside > kBeside;
-  });
+  if (!held->directory) held->directory = Target().OpenDirectory(held->name);
+  // Of a very deep tree the upper levels go.
+  Held* last = held.get();
+  for (std::size_t levels = 0; last->above && levels < kOnTheWay; ++levels) {
+    last = last->above.get();
+  }
+  last->above = nullptr;
+  return held;
 }
 
 std::optional<ScanCache::Place> ScanCache::Find(TextView name) {
@@ -279,40 +279,33 @@ void ScanCache::DeleteFile(const Text& name) {
   Target().DeleteFile(name);
 }
 
-std::string ScanCache::ReadRecord(const Text& name) {
-  if (const auto place = Find(name)) return place->directory.ReadVersionRecord(place->entry);
-  const std::uint32_t length = Target().GetFileVersionInfoSize(name);
-  std::string block;
-  if (length == 0 || !Target().GetFileVersionInfo(name, length, block)) return {};
-  return block;
+bool ScanCache::GetFileProperties(const Text& name, FileStatus& status, std::string& record) {
+  const auto place = Find(name);
+  const bool found = place ? place->directory.GetFileProperties(place->entry, status, record)
+                           : Target().GetFileProperties(name, status, record);
+  if (records_.Find(name) == nullptr) records_.Put(name, record);
+  return found;
 }
 
-const ScanCache::Record& ScanCache::RecordOf(const Text& name) {
-  const auto known = std::find_if(records_.begin(), records_.end(), [&](const Record& record) {
-    return EqualsNoCase(record.name, name);
-  });
-  if (known != records_.end()) {
-    // A record that is asked for again behind later ones is the one that the directory comes back
-    // to: it takes the protected place.
-    if (std::next(known) != records_.end()) records_.splice(records_.begin(), records_, known);
-    return *known;
+const std::string& ScanCache::RecordOf(const Text& name) {
+  if (const std::string* known = records_.Find(name)) return *known;
+  FileStatus status;
+  std::string record;
+  const auto place = Find(name);
+  if (place) {
+    place->directory.GetFileProperties(place->entry, status, record);
+  } else {
+    Target().GetFileProperties(name, status, record);
   }
-  Record record{name, ReadRecord(name)};
-  // The analysis comes back to the first file of a directory.
-  if (!records_.empty() && !EqualsNoCase(Split(records_.front().name).first, Split(name).first)) {
-    records_.clear();
-  }
-  records_.push_back(std::move(record));
-  if (records_.size() > kRecords) records_.erase(std::next(records_.begin()));
-  return records_.back();
+  return records_.Put(name, std::move(record));
 }
 
 std::uint32_t ScanCache::GetFileVersionInfoSize(const Text& name) {
-  return static_cast<std::uint32_t>(RecordOf(name).block.size());
+  return static_cast<std::uint32_t>(RecordOf(name).size());
 }
 
 bool ScanCache::GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) {
-  block = RecordOf(name).block;
+  block = RecordOf(name);
   if (block.empty()) return false;
   block.resize(length);
   return true;
@@ -361,7 +354,7 @@ void ScanCache::DropFiles() {
 void ScanCache::DropAll() {
   DropFiles();
   held_.clear();
-  records_.clear();
+  records_.Clear();
   profiles_.clear();
 }
 

@@ -9,6 +9,7 @@
 
 #include "Platform/EntrySearch.h"
 #include "Platform/ForwardingPlatform.h"
+#include "Platform/RecordMemo.h"
 
 namespace trovex {
 
@@ -26,6 +27,7 @@ class ScanCache : public ForwardingPlatform {
   std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override;
 
   bool GetFileStatus(const Text& name, FileStatus& status) override;
+  bool GetFileProperties(const Text& name, FileStatus& status, std::string& record) override;
   FileHandle OpenRead(const Text& name) override;
   FileHandle OpenWrite(const Text& name) override;
   std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
@@ -46,13 +48,14 @@ class ScanCache : public ForwardingPlatform {
  private:
   class SharedFile;
   struct Reader;
-  struct Record;
   struct Profile;
 
-  // A directory by its name with the final backslash; null where it is missing or unreadable.
+  // A directory by its name with the final backslash; null where it is missing or unreadable. Held
+  // for as long as one below it is.
   struct Held {
     Text name;
     std::shared_ptr<HeldDirectory> directory;
+    std::shared_ptr<Held> above;
   };
   // A name found in a directory that is held.
   struct Place {
@@ -61,17 +64,16 @@ class ScanCache : public ForwardingPlatform {
   };
 
   const Held& HeldOf(TextView directory);
-  std::shared_ptr<HeldDirectory> OpenBeneath(TextView directory);
-  void DropFarFrom(TextView directory);
+  std::shared_ptr<Held> FindHeld(TextView directory) const;
+  std::shared_ptr<Held> Open(TextView directory);
   std::optional<Place> Find(TextView name);
   FileHandle OpenFileBeneath(const Text& name);
   FindHandle Begin(EntrySearch search, FindData& data);
-  std::string ReadRecord(const Text& name);
-  const Record& RecordOf(const Text& name);
+  const std::string& RecordOf(const Text& name);
   void DropFiles();
   void DropAll();
 
-  std::list<Held> held_;  // the latest first
+  std::list<std::shared_ptr<Held>> held_;  // the latest first
   std::map<std::int64_t, EntrySearch> searches_;
   std::map<std::int64_t, Reader> readers_;
   std::int64_t next_handle_ = 1;
@@ -79,7 +81,7 @@ class ScanCache : public ForwardingPlatform {
   // What belongs to the directory whose files were asked for last.
   Text files_of_;
   std::map<Text, std::shared_ptr<SharedFile>> files_;
-  std::list<Record> records_;  // the one that is come back to, then the latest
+  RecordMemo records_;
   std::list<Profile> profiles_;
 };
 

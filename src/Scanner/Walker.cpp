@@ -2,14 +2,12 @@
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
+#include "Platform/HeldDirectory.h"
 #include "Resources/Strings.h"
 #include "Scanner/TROVEX_MAIN.h"
-#include "Ui/Directory.h"
 
 namespace trovex {
 namespace {
-
-constexpr std::size_t kPatternLength = 4;  // "\*.*"
 
 std::array<Grid*, kTableCount> tables_in_use = {};
 
@@ -20,15 +18,19 @@ Table TableOf(const Text& sFichier) {
   return bEstExtension(sFichier, u"zip") ? Table::kArchives : Table::kExecutables;
 }
 
-bool IsDirectory(const FindData& entry) {
+bool IsDirectory(const ListedEntry& entry) {
   return (entry.attributes & kAttributeDirectory) != 0;
 }
-bool IsDots(TextView name) {
-  return name == u"." || name == u"..";
+
+// What a directory holds; null where it cannot be searched. The directory itself is not kept open:
+// a walk holds as many of these as the tree has levels.
+std::shared_ptr<const DirectoryEntries> EntriesOf(const Text& sPath) {
+  const auto directory = CurrentPlatform().OpenDirectory(sPath);
+  return directory ? directory->Entries() : nullptr;
 }
 
 // The name of a subdirectory as all paths below the start carry it.
-Text DirectoryName(const FindData& entry) {
+Text DirectoryName(const ListedEntry& entry) {
   return ProperCase(sChangeCaractere(sTronqueAuNul(entry.name), TextView(u"\0", 1), u" "));
 }
 
@@ -49,19 +51,14 @@ void ExplorerRepertoire(const Text& sPath, bool bListerDabord, Control* ctlRafra
   MainMsg(ResString(StringId::kExplorationRepertoire) + sPath + u"...");
   if (bListerDabord) ClasserFichiers(sPath);
 
-  Text sMotif = WithBackslash(sPath) + u"*.*";
-  FindData entry;
-  const FindHandle handle = CurrentPlatform().FindFirstFile(sMotif, entry);
-  if (handle == FindHandle::kNone) return;
-  // A failed search goes the same way: its entry is no directory and its first step ends it.
-  sMotif.resize(sMotif.size() - kPatternLength);
-  const Text& sBase = sMotif;
-  do {
-    if (!IsDirectory(entry)) continue;
-    const Text sSousRep = DirectoryName(entry);
-    if (!IsDots(sSousRep)) VisitSubdirectory(sBase + u"\\" + sSousRep, ctlRafraichir);
-  } while (CurrentPlatform().FindNextFile(handle, entry));
-  CurrentPlatform().FindClose(handle);
+  // A directory that cannot be searched has no subdirectories, without a message.
+  const auto entries = EntriesOf(sPath);
+  if (!entries) return;
+  const Text sBase = sEnleveBackslash(sPath);
+  ListedEntry entry;
+  for (std::size_t place = 0; entries->Next(place, entry);) {
+    if (IsDirectory(entry)) VisitSubdirectory(sBase + u"\\" + DirectoryName(entry), ctlRafraichir);
+  }
 }
 
 void ClasserFichiers(const Text& sPath) {
@@ -79,17 +76,11 @@ void ClasserFichiers(const Text& sPath) {
 Text PremierSousRepertoire(const Text& sPath) {
   if (Trimmed(sPath).empty()) return {};
   try {
-    Platform& platform = CurrentPlatform();
-    FindData entry;
-    const FindHandle handle = platform.FindFirstFile(sAjouteBackslash(sPath) + u"*.*", entry);
-    if (handle == FindHandle::kNone) return {};
-    do {
-      if (!IsDirectory(entry) || IsDots(sTronqueAuNul(entry.name))) continue;
-      const Text sSousRep = ProperCase(sTronqueAuNul(entry.name));
-      platform.FindClose(handle);
-      return sSousRep;
-    } while (platform.FindNextFile(handle, entry));
-    // A search that came to its end is left as it is.
+    const auto entries = EntriesOf(sPath);
+    ListedEntry entry;
+    for (std::size_t place = 0; entries && entries->Next(place, entry);) {
+      if (IsDirectory(entry)) return ProperCase(sTronqueAuNul(entry.name));
+    }
   } catch (const RuntimeError&) {
   }
   return {};

@@ -19,9 +19,10 @@ void zFileInfo::PutFileName(const Text& sFileName, Parts parts) {
   if (Trimmed(sFileName).empty()) return;
   try {
     FileStatus status;
-    if (!CurrentPlatform().GetFileStatus(sFileName, status)) return;
-    status_ = status;
-    if (parts == Parts::kAll) record_ = ReadVersionRecord(sFileName);
+    const bool found = parts == Parts::kAll
+                           ? CurrentPlatform().GetFileProperties(sFileName, status, record_)
+                           : CurrentPlatform().GetFileStatus(sFileName, status);
+    if (found) status_ = status;
   } catch (const RuntimeError&) {
     // What was filled so far stays.
   }

@@ -9,11 +9,11 @@
 namespace trovex {
 namespace {
 
-std::vector<TextView> Split(TextView patterns) {
-  std::vector<TextView> result;
+std::vector<NamePattern> Split(TextView patterns) {
+  std::vector<NamePattern> result;
   while (!patterns.empty()) {
     const std::size_t end = std::min(patterns.find(u';'), patterns.size());
-    if (end > 0) result.push_back(Trimmed(patterns.substr(0, end)));
+    if (end > 0) result.emplace_back(Trimmed(patterns.substr(0, end)));
     patterns.remove_prefix(std::min(end + 1, patterns.size()));
   }
   return result;
@@ -54,10 +54,10 @@ bool FileListBox::Takes(std::uint32_t attributes) const {
 }
 
 void FileListBox::Read(const Text& path, TextView pattern) {
-  const std::vector<TextView> patterns = Split(pattern);
+  const std::vector<NamePattern> patterns = Split(pattern);
   const auto matches = [&](TextView name) {
     return std::any_of(patterns.begin(), patterns.end(),
-                       [&](TextView one) { return MatchesPattern(name, one); });
+                       [&](const NamePattern& one) { return one.Matches(name); });
   };
   std::vector<Text> names;
   const bool found = ReadDirectory(path, [&](const ListedEntry& entry) {

@@ -15,14 +15,14 @@ namespace trovex::posix {
 // Status of what the program sees as `name`; false for what is neither file nor directory.
 bool StatusOf(const struct stat& host, TextView name, FileStatus& status);
 
-// Reads at offsets from an open file.
+// Reads at offsets from an open file, which must outlive it.
 class FileSource : public ByteSource {
  public:
-  explicit FileSource(FileDescriptor file) : file_(std::move(file)) {}
+  explicit FileSource(const FileDescriptor& file) : file_(file) {}
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override;
 
  private:
-  FileDescriptor file_;
+  const FileDescriptor& file_;
 };
 
 // What stands behind this in a profile file is not read, and a longer file is not written.

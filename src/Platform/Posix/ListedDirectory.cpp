@@ -52,11 +52,17 @@ FileHandle ListedDirectory::OpenRead(const ListedEntry& entry) {
   return files_.Add(std::move(file));
 }
 
-std::string ListedDirectory::ReadVersionRecord(const ListedEntry& entry) {
-  FileDescriptor file = OpenFile(entry);
-  if (!file.IsOpen()) return {};
-  FileSource source(std::move(file));
-  return posix::ReadVersionRecord(source);
+bool ListedDirectory::GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                                        std::string& record) {
+  record.clear();
+  const FileDescriptor file = OpenFile(entry);
+  struct stat host;
+  // What cannot be opened may have a status all the same.
+  if (!file.IsOpen()) return GetFileStatus(entry, status);
+  if (fstat(file.Get(), &host) != 0 || !StatusOf(host, entry.name, status)) return false;
+  FileSource source(file);
+  record = ReadVersionRecord(source);
+  return true;
 }
 
 std::uint32_t ListedDirectory::GetPrivateProfileString(const Text& section, const Text& key,

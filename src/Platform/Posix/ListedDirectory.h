@@ -23,7 +23,8 @@ class ListedDirectory : public HeldDirectory {
   std::shared_ptr<HeldDirectory> OpenDirectory(const ListedEntry& entry) override;
   bool GetFileStatus(const ListedEntry& entry, FileStatus& status) override;
   FileHandle OpenRead(const ListedEntry& entry) override;
-  std::string ReadVersionRecord(const ListedEntry& entry) override;
+  bool GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                         std::string& record) override;
   std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
                                         Text& buffer, std::uint32_t size,
                                         const ListedEntry& entry) override;

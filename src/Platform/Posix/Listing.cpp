@@ -22,7 +22,7 @@ constexpr std::size_t kUsualNames = 384;  // characters
 
 constexpr int kDirectoryFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK;
 
-constexpr std::size_t kKeyUnits = 4;  // of a name, in a record's key
+constexpr std::size_t kKeyUnits = 8;  // of a name, in a record's key
 
 // Entries of an open directory, in the system's own order. The plain call under readdir: a
 // catalogue lists every directory of a disc, and the stream around it would double the calls.
@@ -94,13 +94,24 @@ bool IsPlain(std::string_view name) {
                      [](char c) { return static_cast<unsigned char>(c) < 0x80 && c != '\\'; });
 }
 
-// The first units of a name, upper-cased, as a number that stands in the order of the names.
+// The first units of a name, upper-cased and a byte each, as a number: names of different keys
+// stand in the order of the keys. All units above FE count as one, which leaves that order whole.
 std::uint64_t KeyOf(TextView name) {
   std::uint64_t key = 0;
-  for (std::size_t i = 0; i < kKeyUnits; ++i) {
-    key = key << 16 | (i < name.size() ? ToUpper(name[i]) : 0u);
+  const std::size_t size = std::min(name.size(), kKeyUnits);
+  for (std::size_t i = 0; i < size; ++i) {
+    key = key << 8 | std::min<std::uint64_t>(ToUpper(name[i]), 0xFF);
   }
-  return key;
+  return size == 0 ? 0 : key << 8 * (kKeyUnits - size);
+}
+
+int CompareUpper(TextView a, TextView b) {
+  const std::size_t size = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < size; ++i) {
+    const char16_t x = ToUpper(a[i]), y = ToUpper(b[i]);
+    if (x != y) return x < y ? -1 : 1;
+  }
+  return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
 }
 
 // `name` with ~number put before its extension. A point at the start makes no extension.
@@ -182,10 +193,6 @@ TextView Listing::Name(const Record& record) const {
   return {names_.data() + record.text, record.length};
 }
 
-TextView Listing::Upper(const Record& record) const {
-  return {upper_names_.data() + record.text, record.length};
-}
-
 DirectoryEntry Listing::At(std::size_t index) const {
   const Record& record = records_[index];
   return {record.kind, Name(record), host_names_.c_str() + record.host};
@@ -196,28 +203,17 @@ ListedEntry Listing::Listed(std::size_t index) const {
   return {index, AttributesOf(records_[index].kind, name), name};
 }
 
-int Listing::CompareUpper(const Record& a, const Record& b) const {
-  if (a.key != b.key) return a.key < b.key ? -1 : 1;
-  return Upper(a).compare(Upper(b));
-}
-
-int Listing::CompareUpper(const Record& record, std::uint64_t key, TextView name) const {
+int Listing::Compare(const Record& record, std::uint64_t key, TextView name) const {
   if (record.key != key) return record.key < key ? -1 : 1;
-  const TextView upper = Upper(record);
-  const std::size_t size = std::min(upper.size(), name.size());
-  for (std::size_t i = 0; i < size; ++i) {
-    const char16_t unit = ToUpper(name[i]);
-    if (upper[i] != unit) return upper[i] < unit ? -1 : 1;
-  }
-  return upper.size() == name.size() ? 0 : upper.size() < name.size() ? -1 : 1;
+  return CompareUpper(Name(record), name);
 }
 
 std::size_t Listing::PlaceOf(TextView name) const {
   const std::uint64_t key = KeyOf(name);
-  const auto place = std::partition_point(
-      records_.begin(), records_.end(),
-      [&](const Record& record) { return CompareUpper(record, key, name) < 0; });
-  const bool found = place != records_.end() && CompareUpper(*place, key, name) == 0;
+  const auto place =
+      std::partition_point(records_.begin(), records_.end(),
+                           [&](const Record& record) { return Compare(record, key, name) < 0; });
+  const bool found = place != records_.end() && Compare(*place, key, name) == 0;
   return found ? static_cast<std::size_t>(place - records_.begin()) : records_.size();
 }
 
@@ -254,25 +250,20 @@ void Listing::Arrange() {
     PutShownNames();
   }
   Sort();
-  const auto same = [this](const Record& a, const Record& b) { return CompareUpper(a, b) == 0; };
+  const auto same = [this](const Record& a, const Record& b) {
+    return Compare(a, b.key, Name(b)) == 0;
+  };
   if (std::adjacent_find(records_.begin(), records_.end(), same) == records_.end()) return;
   SeparateNames();
   Sort();
 }
 
-// Plain names stand in all three buffers at the same places.
+// Plain names stand in both buffers at the same places.
 void Listing::PutPlainNames() {
-  const std::size_t size = host_names_.size();
-  names_.resize(size);
-  upper_names_.resize(size);
-  for (std::size_t i = 0; i < size; ++i) {
-    const auto unit = static_cast<char16_t>(host_names_[i]);
-    names_[i] = unit;
-    upper_names_[i] = ToUpper(unit);
-  }
+  names_.assign(host_names_.begin(), host_names_.end());
   for (Record& record : records_) {
     record.text = record.host;
-    record.key = KeyOf(Upper(record));
+    record.key = KeyOf(Name(record));
   }
 }
 
@@ -284,7 +275,7 @@ void Listing::PutShownNames() {
 // then the order of the code units counts, and last that of the bytes.
 void Listing::Sort() {
   std::sort(records_.begin(), records_.end(), [this](const Record& a, const Record& b) {
-    if (const int order = CompareUpper(a, b); order != 0) return order < 0;
+    if (const int order = Compare(a, b.key, Name(b)); order != 0) return order < 0;
     const bool other_a = a.kind == EntryKind::kOther, other_b = b.kind == EntryKind::kOther;
     if (other_a != other_b) return other_b;
     if (const int order = Name(a).compare(Name(b)); order != 0) return order < 0;
@@ -295,12 +286,12 @@ void Listing::Sort() {
 
 void Listing::SeparateNames() {
   std::set<Text> taken;
-  for (const Record& record : records_) taken.emplace(Upper(record));
+  for (const Record& record : records_) taken.insert(ToUpper(Name(record)));
   Text first;
   unsigned number = 0;
   for (Record& record : records_) {
-    if (const TextView upper = Upper(record); number == 0 || upper != first) {
-      first = upper;
+    if (Text upper = ToUpper(Name(record)); number == 0 || upper != first) {
+      first = std::move(upper);
       number = 1;
       continue;
     }
@@ -316,7 +307,6 @@ void Listing::Rename(Record& record, const Text& name) {
   record.text = static_cast<std::uint32_t>(names_.size());
   record.length = static_cast<std::uint16_t>(name.size());
   names_ += name;
-  upper_names_ += ToUpper(name);
   record.key = KeyOf(name);
 }
 

@@ -49,9 +49,9 @@ class Listing : public DirectoryEntries {
   bool Find(TextView name, ListedEntry& entry) const override;
 
  private:
-  // Names lie end to end in three buffers, so that a listing costs few allocations.
+  // Names lie end to end in two buffers, so that a listing costs few allocations.
   struct Record {
-    std::uint64_t key = 0;  // of the upper-cased name, which settles most comparisons
+    std::uint64_t key = 0;  // of the name, settles most comparisons
     std::uint32_t text = 0, host = 0;
     std::uint16_t length = 0;
     EntryKind kind = EntryKind::kMissing;
@@ -67,15 +67,13 @@ class Listing : public DirectoryEntries {
   void Rename(Record& record, const Text& name);
   // Place of the name in records_, Count() if it is not there.
   std::size_t PlaceOf(TextView name) const;
-  int CompareUpper(const Record& a, const Record& b) const;
-  int CompareUpper(const Record& record, std::uint64_t key, TextView name) const;
+  // Orders a record against a name, given with its key, without regard to case.
+  int Compare(const Record& record, std::uint64_t key, TextView name) const;
   ListedEntry Listed(std::size_t index) const;
   TextView Name(const Record& record) const;
-  TextView Upper(const Record& record) const;
 
   std::vector<Record> records_;
   Text names_;
-  Text upper_names_;  // offsets as in names_
   std::string host_names_;
   bool plain_ = true;  // every host name is ASCII and shows as it is
 };

@@ -49,9 +49,9 @@ int WithSource(const Place& place, Use use) {
   if (const int unusable = FileError(place)) return unusable;
   // The listing has told that this is a regular file: no further question, and should it have
   // become a FIFO meanwhile, opening it does not wait.
-  FileDescriptor file = OpenHostPath(place.host, O_RDONLY | O_NONBLOCK);
+  const FileDescriptor file = OpenHostPath(place.host, O_RDONLY | O_NONBLOCK);
   if (!file.IsOpen()) return errno;
-  FileSource source(std::move(file));
+  FileSource source(file);
   use(source);
   return 0;
 }
