@@ -58,7 +58,9 @@ Text Padded(int number, std::size_t width) {
 
 Text sAjouteBackslash(TextView sChemin) {
   if (Trimmed(sChemin).empty()) return {};
-  Text sResultat(sChemin);
+  Text sResultat;
+  sResultat.reserve(sChemin.size() + 1);
+  sResultat = sChemin;
   if (!sResultat.ends_with(u'\\')) sResultat += u'\\';
   return sResultat;
 }

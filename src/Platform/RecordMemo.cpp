@@ -24,7 +24,7 @@ const std::string* RecordMemo::Find(TextView name) {
   return &known_[i].record;
 }
 
-const std::string& RecordMemo::Put(TextView name, std::string record) {
+const std::string& RecordMemo::Put(TextView name, std::string_view record) {
   if (count_ > 0 && !EqualsNoCase(DirectoryOf(known_[0].name), DirectoryOf(name))) Clear();
   if (count_ < kRecords) {
     latest_ = count_++;
@@ -32,7 +32,7 @@ const std::string& RecordMemo::Put(TextView name, std::string record) {
     latest_ = latest_ + 1 < kRecords ? latest_ + 1 : 1;
   }
   known_[latest_].name = name;
-  known_[latest_].record = std::move(record);
+  known_[latest_].record = record;
   return known_[latest_].record;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "Platform/Text.h"
 
@@ -15,7 +16,7 @@ class RecordMemo {
  public:
   // Null if the file's record is not held; good until the next call.
   const std::string* Find(TextView name);
-  const std::string& Put(TextView name, std::string record);
+  const std::string& Put(TextView name, std::string_view record);
   void Clear() { count_ = 0; }
 
  private:

@@ -10,7 +10,6 @@ namespace trovex {
 namespace {
 
 constexpr std::size_t kOnTheWay = 64;        // directories held above the one in hand
-constexpr std::size_t kHeld = 8;             // directories held on their own account
 constexpr std::size_t kProfiles = 32;        // profile answers kept
 constexpr std::size_t kSharedFiles = 16;     // files kept open for a directory
 constexpr std::size_t kSharedBytes = 65536;  // of each file
@@ -18,11 +17,11 @@ constexpr std::size_t kSharedBytes = 65536;  // of each file
 // A handle of the cache's own stands above those of the platform beneath, which pass through.
 constexpr std::int64_t kOwnHandles = std::int64_t{1} << 60;
 
-// "D:\JEUX\" and "SETUP.EXE" of "D:\JEUX\SETUP.EXE".
+// "D:\JEUX" and "SETUP.EXE" of "D:\JEUX\SETUP.EXE".
 std::pair<TextView, TextView> Split(TextView name) {
   const std::size_t backslash = name.find_last_of(u'\\');
   if (backslash == TextView::npos) return {{}, name};
-  return {name.substr(0, backslash + 1), name.substr(backslash + 1)};
+  return {name.substr(0, backslash), name.substr(backslash + 1)};
 }
 
 }  // namespace
@@ -97,27 +96,24 @@ ScanCache::~ScanCache() {
   Target().Forget();
 }
 
-// `directory` with its final backslash.
 const ScanCache::Held& ScanCache::HeldOf(TextView directory) {
-  if (!held_.empty() && EqualsNoCase(held_.front()->name, directory)) return *held_.front();
+  if (held_[0] && EqualsNoCase(held_[0]->name, directory)) return *held_[0];
   std::shared_ptr<Held> held = FindHeld(directory);
-  if (held) {
-    held_.remove(held);
-  } else {
-    held = Open(directory);
-  }
-  held_.push_front(std::move(held));
-  if (held_.size() > kHeld) held_.pop_back();
-  return *held_.front();
+  if (!held) held = Open(directory);
+  // It takes the place of itself, else of the one longest unused, and comes first.
+  const auto place = std::find(held_.begin(), held_.end() - 1, held);
+  *place = std::move(held);
+  std::rotate(held_.begin(), place, place + 1);
+  return *held_[0];
 }
 
 // Among the last ones and those above the latest, to which a walk comes back.
 std::shared_ptr<ScanCache::Held> ScanCache::FindHeld(TextView directory) const {
   const auto known = std::find_if(held_.begin(), held_.end(), [&](const auto& held) {
-    return EqualsNoCase(held->name, directory);
+    return held && EqualsNoCase(held->name, directory);
   });
   if (known != held_.end()) return *known;
-  std::shared_ptr<Held> held = held_.empty() ? nullptr : held_.front()->above;
+  std::shared_ptr<Held> held = held_[0] ? held_[0]->above : nullptr;
   while (held && !EqualsNoCase(held->name, directory)) held = held->above;
   return held;
 }
@@ -125,14 +121,14 @@ std::shared_ptr<ScanCache::Held> ScanCache::FindHeld(TextView directory) const {
 // From the directory above, if that is held: so the way to it is not looked for again.
 std::shared_ptr<ScanCache::Held> ScanCache::Open(TextView directory) {
   auto held = std::make_shared<Held>(Held{Text(directory), nullptr, nullptr});
-  const auto [parent, level] = Split(directory.substr(0, directory.size() - 1));
+  const auto [parent, level] = Split(directory);
   ListedEntry entry;
   held->above = FindHeld(parent);
   if (held->above && held->above->directory &&
       held->above->directory->Entries()->Find(level, entry)) {
     held->directory = held->above->directory->OpenDirectory(entry);
   }
-  if (!held->directory) held->directory = Target().OpenDirectory(held->name);
+  if (!held->directory) held->directory = Target().OpenDirectory(held->name + u'\\');
   // Of a very deep tree the upper levels go.
   Held* last = held.get();
   for (std::size_t levels = 0; last->above && levels < kOnTheWay; ++levels) {
@@ -197,8 +193,9 @@ void ScanCache::FindClose(FindHandle handle) {
 }
 
 std::shared_ptr<HeldDirectory> ScanCache::OpenDirectory(const Text& directory) {
-  if (directory.ends_with(u'\\')) return HeldOf(directory).directory;
-  return directory.empty() ? nullptr : HeldOf(directory + u'\\').directory;
+  TextView name = directory;
+  if (name.ends_with(u'\\')) name.remove_suffix(1);
+  return name.empty() ? Target().OpenDirectory(directory) : HeldOf(name).directory;
 }
 
 bool ScanCache::GetFileStatus(const Text& name, FileStatus& status) {
@@ -213,11 +210,7 @@ FileHandle ScanCache::OpenFileBeneath(const Text& name) {
 }
 
 FileHandle ScanCache::OpenRead(const Text& name) {
-  const TextView directory = Split(name).first;
-  if (!EqualsNoCase(directory, files_of_)) {
-    DropFiles();
-    files_of_ = directory;
-  }
+  EnterDirectory(Split(name).first);
   const Text key = ToUpper(name);
   auto known = files_.find(key);
   if (known == files_.end()) {
@@ -297,7 +290,7 @@ const std::string& ScanCache::RecordOf(const Text& name) {
   } else {
     Target().GetFileProperties(name, status, record);
   }
-  return records_.Put(name, std::move(record));
+  return records_.Put(name, record);
 }
 
 std::uint32_t ScanCache::GetFileVersionInfoSize(const Text& name) {
@@ -314,6 +307,7 @@ bool ScanCache::GetFileVersionInfo(const Text& name, std::uint32_t length, std::
 std::uint32_t ScanCache::GetPrivateProfileString(const Text& section, const Text& key,
                                                  const Text& fallback, Text& buffer,
                                                  std::uint32_t size, const Text& file) {
+  EnterDirectory(Split(file).first);
   const auto known = std::find_if(profiles_.begin(), profiles_.end(), [&](const Profile& asked) {
     return asked.file == file && asked.key == key && asked.section == section &&
            asked.fallback == fallback && asked.size == size;
@@ -346,16 +340,22 @@ void ScanCache::Forget() {
   Target().Forget();
 }
 
+void ScanCache::EnterDirectory(TextView directory) {
+  if (EqualsNoCase(directory, files_of_)) return;
+  DropFiles();
+  files_of_ = directory;
+}
+
 void ScanCache::DropFiles() {
   files_.clear();
+  profiles_.clear();
   files_of_.clear();
 }
 
 void ScanCache::DropAll() {
   DropFiles();
-  held_.clear();
+  held_.fill(nullptr);
   records_.Clear();
-  profiles_.clear();
 }
 
 }  // namespace trovex

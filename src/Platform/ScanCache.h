@@ -2,6 +2,7 @@
 // hand, so that each directory is listed once and each file beside a program is read once.
 #pragma once
 
+#include <array>
 #include <list>
 #include <map>
 #include <memory>
@@ -50,8 +51,8 @@ class ScanCache : public ForwardingPlatform {
   struct Reader;
   struct Profile;
 
-  // A directory by its name with the final backslash; null where it is missing or unreadable. Held
-  // for as long as one below it is.
+  // A directory by its name, without the final backslash even of a root; null where it is missing
+  // or unreadable. Held for as long as one below it is.
   struct Held {
     Text name;
     std::shared_ptr<HeldDirectory> directory;
@@ -70,10 +71,12 @@ class ScanCache : public ForwardingPlatform {
   FileHandle OpenFileBeneath(const Text& name);
   FindHandle Begin(EntrySearch search, FindData& data);
   const std::string& RecordOf(const Text& name);
+  void EnterDirectory(TextView directory);
   void DropFiles();
   void DropAll();
 
-  std::list<std::shared_ptr<Held>> held_;  // the latest first
+  static constexpr std::size_t kHeld = 8;
+  std::array<std::shared_ptr<Held>, kHeld> held_;  // the latest first
   std::map<std::int64_t, EntrySearch> searches_;
   std::map<std::int64_t, Reader> readers_;
   std::int64_t next_handle_ = 1;

@@ -18,6 +18,7 @@ constexpr int kColEmplacement = 1;
 constexpr int kColFichier = 2;
 constexpr int kColVersion = 3;
 
+constexpr std::size_t kUsualName = 16;  // characters of a file's name; longer ones do no harm
 constexpr std::size_t kLongestDescription = 50;  // that stands without dots
 constexpr std::size_t kCut = 95;                 // characters of a description kept
 constexpr int kDecoration = 10;                  // characters in a row that make a line worthless
@@ -52,7 +53,9 @@ class Analysis {
         sFichier_(sFichier),
         sDossier_(sAjouteBackslash(sPath)),
         iDossier_(sDossier_.size()),
-        bArchive_(bEstExtension(sFichier, u"zip")) {}
+        bArchive_(bEstExtension(sFichier, u"zip")) {
+    sDossier_.reserve(iDossier_ + kUsualName);
+  }
 
   void Run() {
     const bool bDecrire = NeedsDescription();
@@ -96,7 +99,7 @@ class Analysis {
     grid_.SetCol(kColEmplacement);
     Put(u" " + sPath_);
     grid_.SetCol(kColFichier);
-    Put(u" " + ProperCase(sFichier_));
+    Put(ProperCase(u" " + sFichier_));
     grid_.SetCol(kColDescription);
   }
 

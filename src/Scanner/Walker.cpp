@@ -2,9 +2,9 @@
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
-#include "Platform/HeldDirectory.h"
 #include "Resources/Strings.h"
 #include "Scanner/TROVEX_MAIN.h"
+#include "Ui/Directory.h"
 
 namespace trovex {
 namespace {
@@ -22,16 +22,9 @@ bool IsDirectory(const ListedEntry& entry) {
   return (entry.attributes & kAttributeDirectory) != 0;
 }
 
-// What a directory holds; null where it cannot be searched. The directory itself is not kept open:
-// a walk holds as many of these as the tree has levels.
-std::shared_ptr<const DirectoryEntries> EntriesOf(const Text& sPath) {
-  const auto directory = CurrentPlatform().OpenDirectory(sPath);
-  return directory ? directory->Entries() : nullptr;
-}
-
 // The name of a subdirectory as all paths below the start carry it.
 Text DirectoryName(const ListedEntry& entry) {
-  return ProperCase(sChangeCaractere(sTronqueAuNul(entry.name), TextView(u"\0", 1), u" "));
+  return ProperCase(sTronqueAuNul(entry.name));
 }
 
 void VisitSubdirectory(const Text& sEnfant, Control* ctlRafraichir) {
@@ -79,7 +72,7 @@ Text PremierSousRepertoire(const Text& sPath) {
     const auto entries = EntriesOf(sPath);
     ListedEntry entry;
     for (std::size_t place = 0; entries && entries->Next(place, entry);) {
-      if (IsDirectory(entry)) return ProperCase(sTronqueAuNul(entry.name));
+      if (IsDirectory(entry)) return DirectoryName(entry);
     }
   } catch (const RuntimeError&) {
   }

@@ -29,7 +29,9 @@ void zFileInfo::PutFileName(const Text& sFileName, Parts parts) {
 }
 
 void zFileInfo::ViderChamps() {
-  *this = zFileInfo();
+  status_.reset();
+  record_.clear();
+  made_.reset();
 }
 
 void zFileInfo::Put(Field field, Text value) {

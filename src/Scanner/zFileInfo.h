@@ -71,7 +71,7 @@ class zFileInfo {
 
   std::optional<FileStatus> status_;
   std::string record_;
-  mutable std::array<Text, kFieldCount> texts_;
+  mutable std::array<Text, kFieldCount> texts_;  // each only if it is made
   mutable std::bitset<kFieldCount> made_;
 };
 

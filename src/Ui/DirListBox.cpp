@@ -30,10 +30,12 @@ Text Resolved(TextView path) {
 void DirListBox::SetPath(TextView path) {
   const Text directory = Resolved(path);
   std::vector<Text> children;
-  const bool found = ReadDirectory(directory, [&](const ListedEntry& entry) {
+  const auto entries = EntriesOf(directory);
+  ListedEntry entry;
+  for (std::size_t place = 0; entries && entries->Next(place, entry);) {
     if ((entry.attributes & kAttributeDirectory) != 0) children.emplace_back(entry.name);
-  });
-  if (!found) {
+  }
+  if (!entries && !DirectoryExists(directory)) {
     const bool root = IsRootPath(directory);
     throw RuntimeError(root ? ErrorNumber::kDeviceUnavailable : ErrorNumber::kPathNotFound,
                        u"DirListBox");

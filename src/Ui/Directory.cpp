@@ -26,14 +26,9 @@ bool DirectoryExists(const Text& directory) {
          (status.attributes & kAttributeDirectory) != 0;
 }
 
-bool ReadDirectory(const Text& directory, const std::function<void(const ListedEntry&)>& visit) {
-  if (directory.empty()) return false;
+std::shared_ptr<const DirectoryEntries> EntriesOf(const Text& directory) {
   const auto held = CurrentPlatform().OpenDirectory(directory);
-  // An empty root and an unreadable directory are not opened either.
-  if (!held) return DirectoryExists(directory);
-  ListedEntry entry;
-  for (std::size_t place = 0; held->Entries()->Next(place, entry);) visit(entry);
-  return true;
+  return held ? held->Entries() : nullptr;
 }
 
 }  // namespace trovex

@@ -1,8 +1,7 @@
 // Reading one directory through the platform.
 #pragma once
 
-#include <functional>
-#include <vector>
+#include <memory>
 
 #include "Platform/HeldDirectory.h"
 
@@ -16,8 +15,8 @@ Text WithoutBackslash(TextView directory);
 // True if there is a directory of that name, readable or not.
 bool DirectoryExists(const Text& directory);
 
-// Calls `visit` for each entry but "." and "..", in the platform's order. False if there is no such
-// directory; an unreadable one counts as empty.
-bool ReadDirectory(const Text& directory, const std::function<void(const ListedEntry&)>& visit);
+// What a directory holds; null where a search finds nothing: a missing or unreadable directory, an
+// empty root.
+std::shared_ptr<const DirectoryEntries> EntriesOf(const Text& directory);
 
 }  // namespace trovex

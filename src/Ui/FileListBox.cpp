@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "Platform/Pattern.h"
 #include "Ui/Directory.h"
 #include "Ui/ListBox.h"
 
@@ -19,26 +18,33 @@ std::vector<NamePattern> Split(TextView patterns) {
   return result;
 }
 
+// Null for an empty or unreadable directory; raises where there is none.
+std::shared_ptr<const DirectoryEntries> Entries(const Text& directory) {
+  auto entries = EntriesOf(directory);
+  if (!entries && !DirectoryExists(directory)) {
+    throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
+  }
+  return entries;
+}
+
 }  // namespace
 
 void FileListBox::SetPath(TextView path) {
-  const Text directory = WithoutBackslash(path);
-  Read(directory, pattern_);
-  path_ = directory;
-  Notify(Property::kList);
+  Show(path, pattern_);
 }
 
 void FileListBox::SetPattern(TextView pattern) {
-  pattern_ = pattern;
-  if (!path_.empty()) Read(path_, pattern_);
+  TakePattern(pattern);
+  if (!path_.empty()) Fill(Entries(path_).get());
   Notify(Property::kList);
 }
 
 void FileListBox::Show(TextView path, TextView pattern) {
   Text directory = WithoutBackslash(path);
-  Read(directory, pattern);
+  const auto entries = Entries(directory);
   path_ = std::move(directory);
-  pattern_ = pattern;
+  TakePattern(pattern);
+  Fill(entries.get());
   Notify(Property::kList);
 }
 
@@ -47,27 +53,33 @@ const Text& FileListBox::List(int index) const {
   return index >= 0 && index < ListCount() ? names_[static_cast<std::size_t>(index)] : none;
 }
 
-bool FileListBox::Takes(std::uint32_t attributes) const {
-  if ((attributes & kAttributeDirectory) != 0) return false;
-  if ((attributes & kAttributeHidden) != 0 && !hidden_) return false;
-  return (attributes & kAttributeSystem) == 0 || system_;
+bool FileListBox::Takes(const ListedEntry& entry) const {
+  if ((entry.attributes & kAttributeDirectory) != 0) return false;
+  if ((entry.attributes & kAttributeHidden) != 0 && !hidden_) return false;
+  if ((entry.attributes & kAttributeSystem) != 0 && !system_) return false;
+  return std::any_of(patterns_.begin(), patterns_.end(),
+                     [&](const NamePattern& pattern) { return pattern.Matches(entry.name); });
 }
 
-void FileListBox::Read(const Text& path, TextView pattern) {
-  const std::vector<NamePattern> patterns = Split(pattern);
-  const auto matches = [&](TextView name) {
-    return std::any_of(patterns.begin(), patterns.end(),
-                       [&](const NamePattern& one) { return one.Matches(name); });
-  };
-  std::vector<Text> names;
-  const bool found = ReadDirectory(path, [&](const ListedEntry& entry) {
-    if (Takes(entry.attributes) && matches(entry.name)) names.emplace_back(entry.name);
-  });
-  if (!found) throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
-  if (!std::is_sorted(names.begin(), names.end(), ListOrder)) {
-    std::stable_sort(names.begin(), names.end(), ListOrder);
+void FileListBox::TakePattern(TextView pattern) {
+  if (pattern == pattern_ && !patterns_.empty()) return;
+  pattern_ = pattern;
+  patterns_ = Split(pattern_);
+}
+
+void FileListBox::Fill(const DirectoryEntries* entries) {
+  std::size_t count = 0;
+  ListedEntry entry;
+  for (std::size_t place = 0; entries != nullptr && entries->Next(place, entry);) {
+    if (!Takes(entry)) continue;
+    if (count == names_.size()) names_.emplace_back();
+    names_[count++] = entry.name;
   }
-  names_ = std::move(names);
+  count_ = static_cast<int>(count);
+  const auto end = names_.begin() + count_;
+  if (!std::is_sorted(names_.begin(), end, ListOrder)) {
+    std::stable_sort(names_.begin(), end, ListOrder);
+  }
 }
 
 }  // namespace trovex

@@ -3,7 +3,8 @@
 
 #include <vector>
 
-#include "Platform/Platform.h"
+#include "Platform/HeldDirectory.h"
+#include "Platform/Pattern.h"
 #include "Ui/Control.h"
 
 namespace trovex {
@@ -28,19 +29,23 @@ class FileListBox : public Control {
   void SetHidden(bool hidden) { hidden_ = hidden; }
   void SetSystem(bool system) { system_ = system; }
 
-  int ListCount() const { return static_cast<int>(names_.size()); }
+  int ListCount() const { return count_; }
   // An index outside the list gives an empty text.
   const Text& List(int index) const;
 
  private:
-  void Read(const Text& path, TextView pattern);
-  bool Takes(std::uint32_t attributes) const;
+  void TakePattern(TextView pattern);
+  void Fill(const DirectoryEntries* entries);
+  bool Takes(const ListedEntry& entry) const;
 
   Text path_;
   Text pattern_ = u"*.*";
   bool hidden_ = false;
   bool system_ = false;
+  std::vector<NamePattern> patterns_;  // of pattern_, once a directory was read
+  // The list, and behind it texts of longer ones before, to be written again.
   std::vector<Text> names_;
+  int count_ = 0;
 };
 
 // A directory and its children. List(-1) is the path itself, List(-2) its parent and so on up to

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "Platform/Encoding.h"
+
 namespace trovex::test {
 namespace {
 
@@ -49,6 +51,20 @@ TEST(Pattern, WildcardsAreSeen) {
   EXPECT_TRUE(HasWildcard(u"*.exe"));
   EXPECT_TRUE(HasWildcard(u"a?"));
   EXPECT_FALSE(HasWildcard(u"setup.exe"));
+}
+
+TEST(NamePattern, MatchesAsThePatternItself) {
+  const TextView patterns[] = {u"*",   u"*.*",      u"*.exe", u"*.e?e", u"a*.exe", u"été.TXT", u"?",
+                               u"*xe", u"lisez*.*", u"*.",    u"",      u"**",     u"*é.*"};
+  const TextView names[] = {u"SETUP.EXE", u"a.exe", u"ÉTÉ.txt", u"b", u"LISEZMOI",
+                            u".exe",      u"exe",   u"a.exe2",  u"",  u"é"};
+  for (const TextView pattern : patterns) {
+    const NamePattern compiled(pattern);
+    for (const TextView name : names) {
+      EXPECT_EQ(compiled.Matches(name), MatchesPattern(name, pattern))
+          << ToUtf8(pattern) << " " << ToUtf8(name);
+    }
+  }
 }
 
 }  // namespace

@@ -509,10 +509,18 @@ TEST_F(ArchiveTest, TextsNeverShowButAreReadAllTheSame) {
   EXPECT_EQ(platform_.opened[u"D:\\FILE_ID.DIZ"], 1);
 }
 
+TEST_F(ArchiveTest, OneWithADescriptionOfItsOwnLeavesTextsUnread) {
+  Lines("FILE_ID.DIZ", {u"Description"});
+  disc.File("A.ZIP", NeExecutable(VersionBlock8({{"FileDescription", "Mon Jeu"}})));
+  Scan();
+  EXPECT_EQ(platform_.opened[u"D:\\FILE_ID.DIZ"], 0);
+  EXPECT_EQ(platform_.records[u"D:\\A.ZIP"], 1);
+}
+
 TEST_F(ArchiveTest, HasNoProductName) {
   disc.File("A.ZIP", ZipArchive(5000));
   Scan();
-  EXPECT_EQ(platform_.records[u"D:\\A.ZIP"], 1);
+  EXPECT_EQ(platform_.records[u"D:\\A.ZIP"], 0);
   EXPECT_THAT(Only(2), ElementsAre(u" 5", u" D:\\", u" A.zip", u"01/03/1997"));
 }
 

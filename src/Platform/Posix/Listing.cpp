@@ -102,7 +102,8 @@ std::uint64_t KeyOf(TextView name) {
   for (std::size_t i = 0; i < size; ++i) {
     key = key << 8 | std::min<std::uint64_t>(ToUpper(name[i]), 0xFF);
   }
-  return size == 0 ? 0 : key << 8 * (kKeyUnits - size);
+  for (std::size_t i = size; i < kKeyUnits; ++i) key <<= 8;
+  return key;
 }
 
 int CompareUpper(TextView a, TextView b) {
