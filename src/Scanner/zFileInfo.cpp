@@ -11,7 +11,6 @@ constexpr std::size_t kDateLength = 10;
 constexpr std::size_t kTimeLength = 8;
 constexpr std::size_t kKoCut = 4;  // the last group and its blank
 
-
 }  // namespace
 
 void zFileInfo::PutFileName(const Text& sFileName, Parts parts) {
