@@ -124,7 +124,7 @@ Text sFinHTML() {
 
 Text sAncreNom(const Text& sTexte, bool bGras, bool bAvecTexte, const std::optional<Text>& vAncre) {
   if (sTexte.empty()) return {};
-  const Text sAncre = u"<A NAME=\"" + AnchorOf(sTexte, vAncre) + u"\">";
+  Text sAncre = u"<A NAME=\"" + AnchorOf(sTexte, vAncre) + u"\">";
   if (!bAvecTexte) return sAncre;
   const Text sContenu = sTexteVersHTML(sTexte);
   return sAncre + (bGras ? u"<B>" + sContenu + u"</B>" : sContenu);

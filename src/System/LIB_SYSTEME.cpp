@@ -42,9 +42,9 @@ Text TrimmedRight(Text sTexte) {
 // only the guess is looked for: a directory that the second key names comes back as it stands.
 // Empty where there is no tool.
 Text sNomMSInfo() {
-  const Text sOutil = sLireCleMachine(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", u"PATH");
+  Text sOutil = sLireCleMachine(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", u"PATH");
   if (!sOutil.empty()) return sOutil;
-  const Text sLieu = sLireCleMachine(u"SOFTWARE\\Microsoft\\Shared Tools Location", u"MSINFO");
+  Text sLieu = sLireCleMachine(u"SOFTWARE\\Microsoft\\Shared Tools Location", u"MSINFO");
   if (!sLieu.empty()) return sLieu;
   const Text sSuppose = sLieu + u"\\" + u"MSINFO32" + u".exe";
   return bFichierExiste(sSuppose) ? sSuppose : Text();

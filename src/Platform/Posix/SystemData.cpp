@@ -111,7 +111,9 @@ std::optional<MemoryStatus> ReadMemory(const std::string& proc) {
 std::vector<Text> ReadProcessNames(const std::string& proc) {
   std::vector<Text> names;
   for (const std::string& number : ProcessNumbers(proc)) {
-    std::string name = ReadSmallFile(proc + "/" + number + "/comm");
+    std::string path = proc;
+    path.append("/").append(number).append("/comm");
+    std::string name = ReadSmallFile(path);
     if (name.ends_with('\n')) name.pop_back();
     if (!name.empty()) names.push_back(FromUtf8(name).substr(0, kLongestName));
   }
