@@ -27,8 +27,9 @@ void Grid::SetCols(int cols) {
   StopCounting();
   std::vector<Text> cells(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(cols));
   for (int row = 0; row < rows_; ++row) {
+    const std::size_t start = static_cast<std::size_t>(row) * static_cast<std::size_t>(cols);
     for (int col = 0; col < std::min(cols, cols_); ++col) {
-      cells[static_cast<std::size_t>(row * cols + col)] = std::move(cells_[Offset(row, col)]);
+      cells[start + static_cast<std::size_t>(col)] = std::move(cells_[Offset(row, col)]);
     }
   }
   cells_ = std::move(cells);
