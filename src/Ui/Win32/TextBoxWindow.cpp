@@ -54,6 +54,9 @@ void TextBoxWindow::Flush() {
   if (!stale_) return;
   stale_ = false;
   SetWindowTextW(Handle(), Wide(box_.GetText()));
+  // What replaced the text under the user's hands is typed on at its end.
+  const auto end = static_cast<WPARAM>(box_.GetText().size());
+  if (GetFocus() == Handle() && !box_.Locked()) Send(EM_SETSEL, end, static_cast<LPARAM>(end));
 }
 
 void TextBoxWindow::OnCommand(WORD code) {
