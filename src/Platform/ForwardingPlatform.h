@@ -1,5 +1,7 @@
 // A platform that passes every operation on to another one. What changes one operation (a cache,
-// an injected fault, a count) derives from it and overrides that one.
+// an injected fault, a count) derives from it and overrides that one. OpenDirectory and
+// GetFileProperties are left to Platform, which goes through the other operations: what is
+// overridden holds for them as well.
 #pragma once
 
 #include "Platform/Platform.h"
