@@ -7,6 +7,10 @@ namespace {
 
 constexpr std::size_t kTabColumns = 8;
 
+bool IsControl(char16_t unit) {
+  return unit < u' ' || unit == 0x7F;
+}
+
 // Number of code units of the character at `place`.
 std::size_t UnitsAt(TextView text, std::size_t place) {
   const bool high = (text[place] & 0xFC00) == 0xD800;
@@ -17,10 +21,10 @@ std::size_t UnitsAt(TextView text, std::size_t place) {
 // Finds the cuts of one text, in one pass.
 class Wrapper {
  public:
-  Wrapper(const FontRuler& ruler, TextView text, double limit)
-      : ruler_(ruler), text_(text), limit_(limit) {}
+  Wrapper(const FontRuler& ruler, TextView text, double limit, std::vector<TextView>& lines)
+      : ruler_(ruler), text_(text), limit_(limit), lines_(lines) {}
 
-  std::vector<TextView> Lines() {
+  void Run() {
     std::size_t place = 0;
     while (place < text_.size()) {
       const std::size_t start = place;
@@ -32,7 +36,6 @@ class Wrapper {
       }
     }
     lines_.push_back(text_.substr(start_));
-    return std::move(lines_);
   }
 
  private:
@@ -64,7 +67,7 @@ class Wrapper {
   const FontRuler& ruler_;
   const TextView text_;
   const double limit_;
-  std::vector<TextView> lines_;
+  std::vector<TextView>& lines_;
   std::size_t start_ = 0;     // of the line in hand
   double width_ = 0;          // of what the line holds so far
   std::size_t word_end_ = 0;  // of the last word that blanks follow; the start where there is none
@@ -83,7 +86,7 @@ double FontRuler::Ask(TextView character) const {
   return CurrentView().TextWidth(character, font_);
 }
 
-double FontRuler::Step(TextView text, std::size_t& place) const {
+double FontRuler::StepUnusual(TextView text, std::size_t& place) const {
   const std::size_t start = place;
   place += UnitsAt(text, start);
   const TextView character = text.substr(start, place - start);
@@ -104,7 +107,17 @@ double FontRuler::Width(TextView text) const {
 }
 
 std::vector<TextView> FontRuler::Wrap(TextView text, double width) const {
-  return Wrapper(*this, text, width).Lines();
+  std::vector<TextView> lines;
+  Wrap(text, width, lines);
+  return lines;
+}
+
+void FontRuler::Wrap(TextView text, double width, std::vector<TextView>& lines) const {
+  Wrapper(*this, text, width, lines).Run();
+}
+
+bool IsPrintable(TextView text) {
+  return std::none_of(text.begin(), text.end(), IsControl);
 }
 
 Text PrintableText(TextView text) {
@@ -114,7 +127,7 @@ Text PrintableText(TextView text) {
     if (unit == u'\t') {
       printable.append(kTabColumns - printable.size() % kTabColumns, u' ');
     } else {
-      printable += unit < u' ' || unit == 0x7F ? u' ' : unit;
+      printable += IsControl(unit) ? u' ' : unit;
     }
   }
   return printable;

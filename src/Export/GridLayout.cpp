@@ -18,7 +18,7 @@ Font Bold(Font font) {
 }
 
 double AlignedAt(Alignment alignment, double room, double width) {
-  if (alignment == Alignment::kLeft || width > room) return 0;
+  if (width > room) return 0;
   return alignment == Alignment::kRight ? room - width : (room - width) / 2;
 }
 
@@ -44,26 +44,33 @@ void GridLayout::FitColumns() {
   }
 }
 
-GridLayout::Row GridLayout::Wrap(int row, const FontRuler& ruler) const {
-  Row wrapped;
-  wrapped.texts.reserve(columns_.size());
-  wrapped.cells.reserve(columns_.size());
+void GridLayout::Wrap(int row, const FontRuler& ruler, Row& wrapped) const {
+  wrapped.texts.clear();
+  wrapped.cells.clear();
+  wrapped.ends.clear();
+  wrapped.lines = 1;
   for (const Column& column : columns_) {
-    wrapped.texts.push_back(PrintableText(Trimmed(grid_.Cell(row, column.col))));
-    wrapped.cells.push_back(ruler.Wrap(wrapped.texts.back(), column.width - 2 * kBeside));
-    wrapped.lines = std::max(wrapped.lines, wrapped.cells.back().size());
+    TextView text = Trimmed(grid_.Cell(row, column.col));
+    if (!IsPrintable(text)) text = wrapped.texts.emplace_back(PrintableText(text));
+    const std::size_t first = wrapped.cells.size();
+    ruler.Wrap(text, column.width - 2 * kBeside, wrapped.cells);
+    wrapped.ends.push_back(wrapped.cells.size());
+    wrapped.lines = std::max(wrapped.lines, wrapped.cells.size() - first);
   }
-  return wrapped;
 }
 
 double GridLayout::Run(double top) {
   FitColumns();
   for (int row = 0; row < grid_.FixedRows(); ++row) {
-    headers_.push_back(Wrap(row, bold_));
+    Wrap(row, bold_, headers_.emplace_back());
   }
   y_ = top;
   PutHeader();
-  for (int row = grid_.FixedRows(); row < grid_.Rows(); ++row) PutRow(Wrap(row, plain_));
+  Row wrapped;
+  for (int row = grid_.FixedRows(); row < grid_.Rows(); ++row) {
+    Wrap(row, plain_, wrapped);
+    PutRow(wrapped);
+  }
   Uprights();
   return y_;
 }
@@ -115,11 +122,14 @@ void GridLayout::PutLines(const Row& row, std::size_t first, std::size_t count,
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     const Column& column = columns_[i];
     const double room = column.width - 2 * kBeside;
-    const std::size_t end = std::min(first + count, row.cells[i].size());
+    const Alignment alignment = grid_.ColAlignment(column.col);
+    const std::size_t begin = i == 0 ? 0 : row.ends[i - 1];
+    const std::size_t end = std::min(begin + first + count, row.ends[i]);
     double y = y_ + kAbove;
-    for (std::size_t line = first; line < end; ++line, y += ruler.LineHeight()) {
-      const TextView text = Trimmed(row.cells[i][line]);
-      const double at = AlignedAt(grid_.ColAlignment(column.col), room, ruler.Width(text));
+    for (std::size_t line = begin + first; line < end; ++line, y += ruler.LineHeight()) {
+      const TextView text = Trimmed(row.cells[line]);
+      const bool left = alignment == Alignment::kLeft;
+      const double at = left ? 0 : AlignedAt(alignment, room, ruler.Width(text));
       pages_.PutText(column.left + kBeside + at, y, ruler, text, colour_);
     }
   }

@@ -3,6 +3,8 @@
 // next page whole unless it is taller than a page.
 #pragma once
 
+#include <deque>
+
 #include "Export/PageBuilder.h"
 #include "Ui/Grid.h"
 
@@ -21,15 +23,16 @@ class GridLayout {
     int col;
     double left, width;
   };
-  // One row's cells, cut into lines.
+  // One row's cells, cut into lines: those of column i are from ends[i - 1] to ends[i].
   struct Row {
-    std::vector<Text> texts;
-    std::vector<std::vector<TextView>> cells;
+    std::deque<Text> texts;  // of the cells that cannot be printed as they are
+    std::vector<TextView> cells;
+    std::vector<std::size_t> ends;
     std::size_t lines = 1;
   };
 
   void FitColumns();
-  Row Wrap(int row, const FontRuler& ruler) const;
+  void Wrap(int row, const FontRuler& ruler, Row& wrapped) const;
   void PutHeader();
   void PutRow(const Row& row);
   // Lines `first` to `first + count` of the row.
@@ -50,7 +53,7 @@ class GridLayout {
   const FontRuler& bold_;
   const unsigned colour_;
   std::vector<Column> columns_;
-  std::vector<Row> headers_;
+  std::deque<Row> headers_;  // rows stay where they are: their cells are views of them
   double table_top_ = 0;  // on the page in hand
   double y_ = 0;
   bool fresh_ = true;  // no row stands below the header yet
