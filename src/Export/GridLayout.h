@@ -54,7 +54,7 @@ class GridLayout {
   const unsigned colour_;
   std::vector<Column> columns_;
   std::deque<Row> headers_;  // rows stay where they are: their cells are views of them
-  double table_top_ = 0;  // on the page in hand
+  double table_top_ = 0;     // on the page in hand
   double y_ = 0;
   bool fresh_ = true;  // no row stands below the header yet
 };

@@ -38,8 +38,16 @@ void PageBuilder::NewPage() {
     throw RuntimeError(ErrorNumber::kOverflow, u"PrintPreview",
                        ResString(StringId::kDocumentTropLong));
   }
-  pages_.pages.emplace_back();
-  pages_.pages.back().paper = Paper();
+  Page page;
+  page.paper = Paper();
+  if (Begun()) {
+    // The next page holds about as much as the one before.
+    const Page& former = pages_.pages.back();
+    page.texts.reserve(former.texts.size());
+    page.lines.reserve(former.lines.size());
+    page.letters.reserve(former.letters.size());
+  }
+  pages_.pages.push_back(std::move(page));
   numbered_ = false;
   PutLabel();
   if (numbering_) PutNumber();
@@ -77,11 +85,9 @@ void PageBuilder::PutText(double x, double top, const FontRuler& ruler, TextView
                           unsigned colour) {
   text = WithoutBlanksBehind(text);
   if (text.empty()) return;
-  const auto font = std::find_if(rulers_.begin(), rulers_.end(),
-                                 [&](const auto& known) { return &known == &ruler; });
-  pages_.pages.back().texts.push_back({x + kMargin, top + ruler.Ascent() + kMargin,
-                                       static_cast<std::size_t>(font - rulers_.begin()), colour,
-                                       Text(text)});
+  std::size_t font = 0;
+  while (&rulers_[font] != &ruler) ++font;
+  pages_.pages.back().Add({x + kMargin, top + ruler.Ascent() + kMargin, font, colour}, text);
 }
 
 void PageBuilder::PutLine(double x1, double y1, double x2, double y2, double width,

@@ -108,8 +108,8 @@ class Content {
     first_text_ = false;
     text_colour_ = text.colour;
     text_font_ = text.font;
-    stream_ +=
-        "1 0 0 1 " + Numbers({X(text.x), Y(text.baseline)}) + "Tm " + Literal(text.text) + " Tj\n";
+    stream_ += "1 0 0 1 " + Numbers({X(text.x), Y(text.baseline)}) + "Tm " +
+               Literal(page_.LettersOf(text)) + " Tj\n";
   }
 
   const Pages& pages_;

@@ -18,7 +18,7 @@ struct PageText {
   double baseline = 0;   // what its letters stand on
   std::size_t font = 0;  // which of the document's fonts
   unsigned colour = 0;
-  Text text;
+  std::size_t start = 0, size = 0;  // its letters among those of the page
 };
 
 struct PageLine {
@@ -33,11 +33,23 @@ struct PageImage {
   std::size_t bitmap = 0;  // which of the document's
 };
 
+// The letters of all texts stand in one piece: a long table has hundreds of thousands of texts.
 struct Page {
   Extent paper;
+  Text letters;
   std::vector<PageText> texts;
   std::vector<PageLine> lines;
   std::vector<PageImage> images;
+
+  void Add(PageText text, TextView its_letters) {
+    text.start = letters.size();
+    text.size = its_letters.size();
+    letters += its_letters;
+    texts.push_back(text);
+  }
+  TextView LettersOf(const PageText& text) const {
+    return TextView(letters).substr(text.start, text.size);
+  }
 };
 
 // A picture decoded: rows from the top down, three bytes a pixel, red first, no padding.

@@ -36,7 +36,7 @@ class PdfTest : public PreviewTest {
   }
 
   void Put(const Text& text, std::size_t font = 0, unsigned colour = 0) {
-    document.pages[0].texts.push_back({1000, 2000, font, colour, text});
+    document.pages[0].Add({1000, 2000, font, colour}, text);
   }
   std::string Bytes() const {
     std::string bytes;

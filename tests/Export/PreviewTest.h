@@ -14,6 +14,11 @@ namespace trovex::test {
 
 inline constexpr double kMargin = 850;
 
+// A text of a page with its letters.
+struct Run : PageText {
+  Text text;
+};
+
 class PreviewTest : public LogicTest {
  protected:
   static constexpr double kChar = 120, kLine = 226.6;
@@ -32,21 +37,21 @@ class PreviewTest : public LogicTest {
   }
 
   // Texts of a page that stand between its margins, from the top down and the left to the right.
-  std::vector<PageText> Body(std::size_t page) const {
-    std::vector<PageText> body;
+  std::vector<Run> Body(std::size_t page) const {
+    std::vector<Run> body;
     for (const PageText& text : pages.pages.at(page).texts) {
       if (text.baseline > kMargin && text.baseline < Paper(page).height - kMargin) {
-        body.push_back(text);
+        body.push_back({text, Text(pages.pages.at(page).LettersOf(text))});
       }
     }
-    std::stable_sort(body.begin(), body.end(), [](const PageText& a, const PageText& b) {
+    std::stable_sort(body.begin(), body.end(), [](const Run& a, const Run& b) {
       return a.baseline != b.baseline ? a.baseline < b.baseline : a.x < b.x;
     });
     return body;
   }
   std::vector<Text> Lines(std::size_t page) const {
     std::vector<Text> lines;
-    for (const PageText& text : Body(page)) lines.push_back(text.text);
+    for (const Run& text : Body(page)) lines.push_back(text.text);
     return lines;
   }
   // What stands in the margins.
@@ -78,7 +83,9 @@ class PreviewTest : public LogicTest {
   std::vector<Text> Margin(std::size_t page, Test test) const {
     std::vector<Text> found;
     for (const PageText& text : pages.pages.at(page).texts) {
-      if (test(text, Paper(page))) found.push_back(text.text);
+      if (test(text, Paper(page))) {
+        found.emplace_back(pages.pages.at(page).LettersOf(text));
+      }
     }
     return found;
   }

@@ -25,7 +25,8 @@ class PrintCommandsTest : public ScreenTest {
   }
   std::vector<Text> Texts(std::size_t page = 0) const {
     std::vector<Text> texts;
-    for (const PageText& text : pages.pages.at(page).texts) texts.push_back(text.text);
+    const Page& shown = pages.pages.at(page);
+    for (const PageText& text : shown.texts) texts.emplace_back(shown.LettersOf(text));
     return texts;
   }
   void ExpectReady() {

@@ -68,23 +68,25 @@ void PagePainter::Draw(HDC dc, const Page& page, Scale scale) {
   for (const PageLine& line : page.lines) Draw(dc, line, scale);
   SetBkMode(dc, TRANSPARENT);
   SetTextAlign(dc, TA_LEFT | TA_BASELINE);
-  for (const PageText& text : page.texts) Draw(dc, text, scale);
+  for (const PageText& text : page.texts) {
+    Draw(dc, text, Text(page.LettersOf(text)), scale);
+  }
 }
 
 // Each character stands where the layout has it, whatever the device makes of the font.
-void PagePainter::Draw(HDC dc, const PageText& text, Scale scale) {
+void PagePainter::Draw(HDC dc, const PageText& text, const Text& letters, Scale scale) {
   const Font& font = pages_.fonts[text.font];
   const HGDIOBJ former = SelectObject(dc, fonts_.Get(font, scale));
   SetTextColor(dc, NativeColour(text.colour));
   std::vector<int> steps;
   int at = scale.Pixels(text.x);
-  for (const double end : measure_.Ends(text.text, font)) {
+  for (const double end : measure_.Ends(letters, font)) {
     const int next = scale.Pixels(text.x + end);
     steps.push_back(next - at);
     at = next;
   }
-  ExtTextOutW(dc, scale.Pixels(text.x), scale.Pixels(text.baseline), 0, nullptr, Wide(text.text),
-              static_cast<UINT>(text.text.size()), steps.data());
+  ExtTextOutW(dc, scale.Pixels(text.x), scale.Pixels(text.baseline), 0, nullptr, Wide(letters),
+              static_cast<UINT>(letters.size()), steps.data());
   SelectObject(dc, former);
 }
 

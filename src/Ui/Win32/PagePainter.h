@@ -35,7 +35,7 @@ class PagePainter {
   void Draw(HDC dc, const Page& page, Scale scale);
 
  private:
-  void Draw(HDC dc, const PageText& text, Scale scale);
+  void Draw(HDC dc, const PageText& text, const Text& letters, Scale scale);
   static void Draw(HDC dc, const PageLine& line, Scale scale);
   void Draw(HDC dc, const PageImage& image, Scale scale);
 
