@@ -40,7 +40,7 @@ class GridLayoutTest : public PreviewTest {
   // Right ends of the texts of a page, but for what stands in its margins.
   double RightMost(std::size_t page) const {
     double right = 0;
-    for (const Run& text : Body(page)) {
+    for (const Seen& text : Body(page)) {
       right = std::max(right, text.x + kChar * static_cast<double>(text.text.size()));
     }
     return right;
@@ -60,7 +60,7 @@ class GridLayoutTest : public PreviewTest {
 
 TEST_F(GridLayoutTest, TheTitleStandsAboveTheGridInTheMiddle) {
   Print();
-  const Run heading = Body(0)[0];
+  const Seen heading = Body(0)[0];
   EXPECT_EQ(heading.text, u"Liste");
   EXPECT_EQ(FontOf(heading), (Font{u"Courier New", 14, true}));
   EXPECT_NEAR(heading.x, kMargin + (kPortraitWidth - 5 * 1.4 * kChar) / 2, 0.01);
@@ -156,7 +156,7 @@ TEST_F(GridLayoutTest, ATextTooWideForItsCellIsWrapped) {
   Print();
   EXPECT_THAT(Lines(0),
               ElementsAre(u"Liste", u"Nom", u"Lieu", u"a", u"un deux trois quatre", u"cinq six"));
-  const std::vector<Run> body = Body(0);
+  const std::vector<Seen> body = Body(0);
   EXPECT_EQ(body[3].baseline, body[4].baseline);
   EXPECT_NEAR(body[5].baseline - body[4].baseline, kLine, 0.01);
   EXPECT_EQ(body[5].x, body[4].x);
@@ -223,7 +223,7 @@ TEST_F(GridLayoutTest, CellsFollowTheAlignmentOfTheirColumn) {
   Put(1, 0, u"droite");
   Put(1, 1, u"milieu");
   Print();
-  const std::vector<Run> body = Body(0);
+  const std::vector<Seen> body = Body(0);
   const double column = kPortraitWidth * 3 / 4;
   EXPECT_NEAR(body[3].x, kMargin + column - 60 - 6 * kChar, 0.01);
   EXPECT_NEAR(body[4].x, kMargin + column + (kPortraitWidth - column - 6 * kChar) / 2, 0.01);

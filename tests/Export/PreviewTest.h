@@ -15,7 +15,7 @@ namespace trovex::test {
 inline constexpr double kMargin = 850;
 
 // A text of a page with its letters.
-struct Run : PageText {
+struct Seen : PageText {
   Text text;
 };
 
@@ -37,21 +37,21 @@ class PreviewTest : public LogicTest {
   }
 
   // Texts of a page that stand between its margins, from the top down and the left to the right.
-  std::vector<Run> Body(std::size_t page) const {
-    std::vector<Run> body;
+  std::vector<Seen> Body(std::size_t page) const {
+    std::vector<Seen> body;
     for (const PageText& text : pages.pages.at(page).texts) {
       if (text.baseline > kMargin && text.baseline < Paper(page).height - kMargin) {
         body.push_back({text, Text(pages.pages.at(page).LettersOf(text))});
       }
     }
-    std::stable_sort(body.begin(), body.end(), [](const Run& a, const Run& b) {
+    std::stable_sort(body.begin(), body.end(), [](const Seen& a, const Seen& b) {
       return a.baseline != b.baseline ? a.baseline < b.baseline : a.x < b.x;
     });
     return body;
   }
   std::vector<Text> Lines(std::size_t page) const {
     std::vector<Text> lines;
-    for (const Run& text : Body(page)) lines.push_back(text.text);
+    for (const Seen& text : Body(page)) lines.push_back(text.text);
     return lines;
   }
   // What stands in the margins.

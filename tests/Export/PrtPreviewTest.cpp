@@ -305,7 +305,7 @@ TEST_F(PrtPreviewTest, LabelsAndValuesStandBesideEachOther) {
   document.PutItemsString(u"A :", u"a", u"C :", u"c", u"E :", u"e");
   document.PutString(u"suite");
   Show(document);
-  const std::vector<Run> body = Body(0);
+  const std::vector<Seen> body = Body(0);
   ASSERT_THAT(Lines(0), ElementsAre(u"    A :", u"a", u"        C :", u" c", u"        E :", u" e",
                                     u"suite"));
   const double places[] = {0, 8, 9, 21, 22, 34};
@@ -341,7 +341,7 @@ TEST_F(PrtPreviewTest, ALabelAtAPlaceHasItsValueBehindIt) {
   Surface();
   document.PutItemsStringCmXY(u"Nom", u"valeur", 2, 5);
   Show(document);
-  const std::vector<Run> body = Body(0);
+  const std::vector<Seen> body = Body(0);
   ASSERT_THAT(Lines(0), ElementsAre(u"Nom", u"valeur"));
   EXPECT_DOUBLE_EQ(body[0].x, kMargin + 1134);
   EXPECT_NEAR(body[1].x, kMargin + 1134 + 3 * kChar, 1);

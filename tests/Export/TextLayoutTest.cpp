@@ -120,7 +120,7 @@ TEST_F(TextLayoutTest, ATextThatJustFillsThePageBeginsNoOther) {
 
 TEST_F(TextLayoutTest, NoLineLeavesTheMargins) {
   Print(Text(1000, u'x') + u" " + Text(84, u'y') + u" zz");
-  for (const Run& text : Body(0)) {
+  for (const Seen& text : Body(0)) {
     EXPECT_LE(text.text.size(), kAcross);
     EXPECT_GE(text.x, kMargin);
   }
