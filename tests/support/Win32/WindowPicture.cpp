@@ -34,19 +34,19 @@ class Session {
   ULONG_PTR token_ = 0;
 };
 
-// A copy of the window's pixels; the caller deletes it.
+// A copy of the screen where the window lies; the caller deletes it.
 HBITMAP Copy(HWND window) {
   RECT at;
   GetWindowRect(window, &at);
   const int width = at.right - at.left, height = at.bottom - at.top;
-  const HDC from = GetWindowDC(window);
+  const HDC from = GetDC(nullptr);
   const HDC to = CreateCompatibleDC(from);
   const HBITMAP copy = CreateCompatibleBitmap(from, width, height);
   const HGDIOBJ before = SelectObject(to, copy);
-  BitBlt(to, 0, 0, width, height, from, 0, 0, SRCCOPY);
+  BitBlt(to, 0, 0, width, height, from, at.left, at.top, SRCCOPY);
   SelectObject(to, before);
   DeleteDC(to);
-  ReleaseDC(window, from);
+  ReleaseDC(nullptr, from);
   return copy;
 }
 
