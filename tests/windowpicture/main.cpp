@@ -14,8 +14,8 @@ namespace trovex::test {
 namespace {
 
 constexpr wchar_t kFormClass[] = L"TrovexForm";
-constexpr DWORD kPatience = 60'000;      // milliseconds for the window to come
-constexpr UINT kLongScan = 1'800'000;    // for the scan to end
+constexpr DWORD kPatience = 60'000;    // milliseconds for the window to come
+constexpr UINT kLongScan = 1'800'000;  // for the scan to end
 constexpr DWORD kBetweenLooks = 50;
 
 class Program {

@@ -6,6 +6,7 @@
 #include "Ui/TabControl.h"
 #include "Ui/Win32/Accessibility.h"
 #include "Ui/Win32/FormWindow.h"
+#include "Ui/Win32/ToolTip.h"
 
 namespace trovex::win32 {
 namespace {
@@ -35,6 +36,7 @@ void NativeControl::Create(const wchar_t* window_class, DWORD style, DWORD exten
   SetWindowSubclass(handle_, Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
   EnableWindow(handle_, model_.Enabled());
   SetAccessibleName(handle_, model_.AccessibleName());
+  ShowToolTip(handle_, model_.ToolTip());
   Rescale();
   ApplyVisible();
 }

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <map>
 
+#include "Export/Lib_GridListe.h"
 #include "Html/Lib_OptionsHTML.h"
 #include "Html/Lib_RGBForm.h"
 #include "Lib/Lib_SelectDlg.h"
@@ -151,6 +152,13 @@ TEST_F(FormPicturesTest, AboutDlg) {
   Lib_AboutDlg form;
   form.LabelNom.SetCaption(u"Trovex");
   form.LabelVersion.SetCaption(u"v1.0.0");
+  LookAt(form);
+}
+
+TEST_F(FormPicturesTest, GridListe) {
+  Lib_GridListe form;
+  form.SetCaption(u"Liste des fichiers");
+  for (int row = 0; row < 12; ++row) form.GridListe.AddItem(u"Fichier\tD:\\JEUX\t12 Ko\t1.0");
   LookAt(form);
 }
 

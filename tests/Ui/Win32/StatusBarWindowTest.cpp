@@ -7,6 +7,7 @@ class StatusBarWindowTest : public ViewTest {
  protected:
   StatusBarWindowTest() {
     Make({{ControlKind::kStatusBar, u"Lui", -1, {0, 4185, 6000, 315}}});
+    Bar().SetToolTip(u"Zone d'aide");
     Bar().AddPanel(u"Msg", StatusBar::PanelStyle::kText);
     Bar().AddPanel(u"Maj", StatusBar::PanelStyle::kCapsLock);
     Bar().AddPanel(u"Num", StatusBar::PanelStyle::kNumLock);
@@ -33,6 +34,22 @@ TEST_F(StatusBarWindowTest, ShowsTheProgramsTextAtOnce) {
   EXPECT_EQ(Panel(0), u"Recherche…");
   Bar().SetPanelText(u"Msg", u"");
   EXPECT_EQ(Panel(0), u"");
+}
+
+TEST_F(StatusBarWindowTest, HasItsToolTip) {
+  TTTOOLINFOW tool = {};
+  tool.cbSize = TTTOOLINFOW_V2_SIZE;
+  tool.hwnd = FormHandle();
+  tool.uId = reinterpret_cast<UINT_PTR>(Handle(Bar()));
+  wchar_t text[80] = {};
+  tool.lpszText = text;
+  HWND tip = nullptr;
+  while ((tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+    if (GetWindow(tip, GW_OWNER) != FormHandle()) continue;
+    SendMessageW(tip, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+    if (*text != L'\0') break;
+  }
+  EXPECT_STREQ(text, L"Zone d'aide");
 }
 
 TEST_F(StatusBarWindowTest, PanelsFollowTheKeyboard) {
