@@ -90,11 +90,12 @@ void GridWindow::Flush() {
 void GridWindow::ShowSelection() {
   LVITEMW state = {};
   state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  const auto now = static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-  if (now == grid_.Row() - 1) return;
-  state.state = grid_.Row() > 0 ? state.stateMask : 0;
-  Send(LVM_SETITEMSTATE, static_cast<WPARAM>(grid_.Row() - 1), reinterpret_cast<LPARAM>(&state));
-  if (grid_.Row() > 0) Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(grid_.Row() - 1), FALSE);
+  const auto item = static_cast<WPARAM>(grid_.Row() - 1);
+  const bool any = grid_.Row() > 0;
+  if (any && Send(LVM_GETITEMSTATE, item, LVIS_SELECTED) != 0) return;
+  state.state = any ? state.stateMask : 0;
+  Send(LVM_SETITEMSTATE, item, reinterpret_cast<LPARAM>(&state));
+  if (any) Send(LVM_ENSUREVISIBLE, item, FALSE);
 }
 
 void GridWindow::FillCell(NMLVDISPINFOW& info) {

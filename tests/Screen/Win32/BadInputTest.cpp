@@ -11,7 +11,11 @@ class BadInputTest : public WindowTest {
     Main(form);
     Rest();
   }
-  // Scans the directory and clicks on the first row of the table that comes up.
+  // A directory with two programs: a lone one would not bring its table up.
+  void Programs(const std::string& directory, const std::string& first) {
+    disc.File(directory + "/" + first, DosExecutable());
+    disc.File(directory + "/ZZZ.EXE", DosExecutable());
+  }
   void Scan(const Text& directory) {
     form.ListeRepertoire.SetPath(directory);
     Push(form.Explorer);
@@ -38,37 +42,44 @@ TEST_F(BadInputTest, ANameBeyond260CharactersIsShownWhole) {
   const std::string level(60, 'n');
   std::string directory = "Profond";
   for (int i = 0; i < 5; ++i) directory += "/" + level;
-  disc.File(directory + "/JEU.EXE", DosExecutable());
+  Programs(directory, "JEU.EXE");
   Start();
   Scan(u"D:\\Profond");
   EXPECT_EQ(Ask(form.TextInfo(5), WM_GETTEXTLENGTH), 10 + 5 * 61 + 8);
-  EXPECT_EQ(Info(6), u"1");
+  EXPECT_EQ(Info(6), u"2");
 }
 
 TEST_F(BadInputTest, ANameOutsideTheCodePageIsShownAsItIs) {
-  disc.File("Grec/Ωμέγα ソフト.EXE", DosExecutable());
+  Programs("Grec", "Ωμέγα ソフト.EXE");
   Start();
   Scan(u"D:\\Grec");
+  Press(form.GridLogiciel(form.ZoneDesTableaux.Tab()), VK_DOWN);
   EXPECT_EQ(Info(5), u"D:\\Grec\\Ωμέγα ソフト.exe");
 }
 
 TEST_F(BadInputTest, ACorruptIconBesideAProgramShowsAnEmptyPane) {
-  disc.File("Icone/JEU.EXE", DosExecutable());
+  Programs("Icone", "JEU.EXE");
   disc.File("Icone/JEU.ICO", std::string("\0\0\1\0\1\0\x20\x20\0\0\1\0\x20\0\xFF\xFF\xFF\x7F", 18));
   Start();
   Scan(u"D:\\Icone");
-  EXPECT_EQ(Info(6), u"1");
-  EXPECT_TRUE(IsWindowVisible(Handle(form)));
+  ASSERT_EQ(form.ListFichier.ListCount(), 1);
+  EXPECT_EQ(form.ListFichier.List(0), u"Jeu.ico");
+  EXPECT_TRUE(IsWindowVisible(Handle(form.ImageSelect)));
+  const HDC dc = GetDC(Handle(form.ImageSelect));
+  EXPECT_EQ(GetPixel(dc, 16, 16), COLORREF{form.BackColor()});
+  ReleaseDC(Handle(form.ImageSelect), dc);
 }
 
-TEST_F(BadInputTest, AProgramThatVanishedLeavesItsRow) {
-  disc.File("Parti/JEU.EXE", DosExecutable());
+TEST_F(BadInputTest, AProgramThatVanishedLeavesItsRowAndItsName) {
+  Programs("Parti", "JEU.EXE");
   Start();
   Scan(u"D:\\Parti");
+  ASSERT_EQ(Info(6), u"2");
   disc.Remove("Parti/JEU.EXE");
-  ASSERT_EQ(Info(6), u"1");
-  Click(form.GridLogiciel(form.ZoneDesTableaux.Tab()), 20, 30);
-  EXPECT_TRUE(IsWindowVisible(Handle(form)));
+  Press(form.GridLogiciel(form.ZoneDesTableaux.Tab()), VK_DOWN);
+  Press(form.GridLogiciel(form.ZoneDesTableaux.Tab()), VK_UP);
+  EXPECT_EQ(Info(5), u"D:\\Parti\\Jeu.exe");
+  EXPECT_EQ(Info(6), u"2");
 }
 
 }  // namespace

@@ -62,7 +62,8 @@ class FormPicturesTest : public WindowTest {
       if (at.left < 0 || at.top < 0 || at.right > client.cx || at.bottom > client.cy) {
         found.push_back(NameOf(*control) + " leaves the form");
       }
-      if (const auto* captioned = dynamic_cast<const Captioned*>(control.get())) {
+      const auto* captioned = dynamic_cast<const Captioned*>(control.get());
+      if (captioned != nullptr && !captioned->Caption().empty()) {
         if (!Fits(*captioned)) found.push_back(NameOf(*control) + " is too small for its caption");
         const Control* other = Covered(form, *captioned);
         if (other != nullptr) found.push_back(NameOf(*control) + " meets " + NameOf(*other));
