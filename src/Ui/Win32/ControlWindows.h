@@ -244,6 +244,7 @@ class GridWindow : public NativeControl {
   void MakeColumns();
   void ShowColumns();
   void ShowSelection();
+  void SetItemState(int item, UINT selection);
   void FillCell(NMLVDISPINFOW& info);
   LRESULT DrawHighlight(NMLVCUSTOMDRAW& draw);
   void OnSelected(int item);
@@ -254,6 +255,7 @@ class GridWindow : public NativeControl {
   Grid& grid_;
   bool stale_ = true;
   bool showing_columns_ = false;
+  int selected_ = -1;  // the item that the window shows as selected, as far as is known
   int chosen_by_press_ = -1;
 };
 

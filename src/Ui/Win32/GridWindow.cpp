@@ -88,14 +88,21 @@ void GridWindow::Flush() {
 }
 
 void GridWindow::ShowSelection() {
+  const int item = grid_.Row() - 1;
+  if (item >= 0 && Send(LVM_GETITEMSTATE, static_cast<WPARAM>(item), LVIS_SELECTED) != 0) return;
+  // By name: some list views go through all their rows to find what they should release.
+  if (selected_ >= 0) SetItemState(selected_, 0);
+  selected_ = -1;
+  if (item < 0) return;
+  SetItemState(item, LVIS_SELECTED | LVIS_FOCUSED);
+  Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
+}
+
+void GridWindow::SetItemState(int item, UINT selection) {
   LVITEMW state = {};
   state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  const auto item = static_cast<WPARAM>(grid_.Row() - 1);
-  const bool any = grid_.Row() > 0;
-  if (any && Send(LVM_GETITEMSTATE, item, LVIS_SELECTED) != 0) return;
-  state.state = any ? state.stateMask : 0;
-  Send(LVM_SETITEMSTATE, item, reinterpret_cast<LPARAM>(&state));
-  if (any) Send(LVM_ENSUREVISIBLE, item, FALSE);
+  state.state = selection;
+  Send(LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
 }
 
 void GridWindow::FillCell(NMLVDISPINFOW& info) {
@@ -119,6 +126,7 @@ void GridWindow::Choose(int item) {
 }
 
 void GridWindow::OnSelected(int item) {
+  selected_ = item;
   if (item + 1 == grid_.Row()) return;
   chosen_by_press_ = item;
   Choose(item);
