@@ -69,6 +69,17 @@ TEST_F(SmallExportTest, JsonComesAsWithoutTheExports) {
   EXPECT_EQ(out_, plain);
 }
 
+TEST_F(SmallExportTest, ANameWithoutAPointGetsTheExtensionOfItsFormat) {
+  const std::string name = Argument("SORTIE") + "/abc";
+  EXPECT_EQ(Run({"--quiet", "--csv", name, "--prn", name, "--txt", name, "--pdf", name}),
+            cli::kDone);
+  for (const char* written :
+       {"SORTIE/abc.csv", "SORTIE/abc.prn", "SORTIE/abc.txt", "SORTIE/abc.pdf"}) {
+    EXPECT_TRUE(Exists(written)) << written;
+  }
+  EXPECT_FALSE(Exists("SORTIE/abc"));
+}
+
 TEST_F(SmallExportTest, AFileThatCannotBeWrittenGivesStatus1) {
   EXPECT_EQ(
       Run({"--quiet", "--csv", Argument("ABSENT") + "/A.CSV", "--txt", Argument("SORTIE/A.TXT")}),

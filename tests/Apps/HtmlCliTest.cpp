@@ -189,6 +189,60 @@ TEST_F(HtmlCliTest, TheTargetMayBeRelative) {
               HasSubstr("SRC=\"relatif_tableaux.htm\""));
 }
 
+TEST_F(HtmlCliTest, ANameWithoutAPointGetsTheExtension) {
+  EXPECT_EQ(Run({"--quiet", "--html", Argument("SITE") + "/abc"}), cli::kDone);
+  EXPECT_THAT(Contents(disc_.HostPath("SITE/abc.htm")), HasSubstr("SRC=\"abc_tableaux.htm\""));
+  EXPECT_THAT(Contents(disc_.HostPath("SITE/abc_tableaux.htm")), EndsWith("</HTML>\r\n"));
+  EXPECT_THAT(Contents(disc_.HostPath("SITE/abc_donnees.htm")), StartsWith("<!--"));
+  EXPECT_EQ(Contents(disc_.HostPath("SITE/abc")), "missing");
+}
+
+TEST_F(HtmlCliTest, APointInADirectoryIsNoExtension) {
+  disc_.Directory("SITE/V1.0");
+  EXPECT_EQ(Run({"--quiet", "--html", Argument("SITE/V1.0") + "/abc"}), cli::kDone);
+  EXPECT_THAT(Contents(disc_.HostPath("SITE/V1.0/abc.htm")), StartsWith("<HTML>"));
+}
+
+TEST_F(HtmlCliTest, AnExtensionGivenStays) {
+  for (const std::string name : {"SITE/abc.html", "SITE/abc.x"}) {
+    EXPECT_EQ(Run({"--quiet", "--html", Argument(name)}), cli::kDone);
+    EXPECT_THAT(Contents(disc_.HostPath(name)), StartsWith("<HTML>"));
+  }
+}
+
+TEST_F(HtmlCliTest, ADirectoryForATargetIsStatusOne) {
+  EXPECT_EQ(Run({"--quiet", "--html", Argument("SITE") + "/"}), cli::kExportFailed);
+  EXPECT_EQ(Contents(disc_.HostPath("SITE.htm")), "missing");
+}
+
+// The tab counts a table by its current row, which an inspection must leave where it was.
+TEST_F(HtmlCliTest, AnInspectionChangesNothingOfTheExport) {
+  for (const char* name : {"A.ZIP", "B.ZIP"}) disc_.File(name, ZipArchive(5000));
+  disc_.File("JEUX/DAMES.EXE", DosExecutable());
+  disc_.File("JEUX/DAMES.TXT", "Jeu de dames\r\n");
+  std::string lines;
+  for (int i = 0; i < 4; ++i) lines += std::string(60, '_') + "\r\n";
+  disc_.File("VIDE/RIEN.EXE", DosExecutable());
+  disc_.File("VIDE/LISEZMOI.TXT", lines);
+  const Json rows = Catalogue()["tables"][1]["rows"];
+  ASSERT_EQ(rows.size(), 2u);
+  ASSERT_EQ(rows[1][0], "");
+  EXPECT_EQ(Export(), cli::kDone);
+  const std::string tables = Tables(), data = Data();
+  EXPECT_THAT(tables, HasSubstr("#EXECUTBALE"));
+  EXPECT_EQ(Export({"--inspect", "--json"}), cli::kDone);
+  EXPECT_EQ(Tables(), tables);
+  EXPECT_EQ(Data(), data);
+}
+
+TEST_F(HtmlCliTest, ATextThatIsLostIsStatusOne) {
+  disc_.File("JEU.EXE", DosExecutable());
+  disc_.File("JEU.TXT", std::string(40000, 'x') + "\r\nfin\r\n");
+  EXPECT_EQ(Export(), cli::kExportFailed);
+  EXPECT_THAT(err_, StartsWith("trovex-cli: Erreur de traitement sur :"));
+  EXPECT_THAT(Data(), HasSubstr("<KBD>\r\n\r\n</KBD>")) << "the rest is written all the same";
+}
+
 TEST_F(HtmlCliTest, ATargetThatCannotBeCreatedIsStatusOne) {
   disc_.File("JEU.EXE", DosExecutable());
   EXPECT_EQ(Run({"--json", "--html", Argument("AUCUN/Fichier.htm")}), cli::kExportFailed);

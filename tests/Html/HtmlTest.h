@@ -39,6 +39,14 @@ class HtmlTest : public MachineTest {
     sDernierFichierIni.clear();
     return sLitIni(u"html", key, u"-", sFichierIni);
   }
+  // The settings file as it stands, or its first 1000 bytes.
+  std::string SettingsBytes() {
+    const FileHandle file = disc.GetPlatform().OpenRead(sFichierIni);
+    std::string contents(1000, '\0');
+    contents.resize(disc.GetPlatform().Read(file, contents.data(), contents.size()));
+    disc.GetPlatform().Close(file);
+    return contents;
+  }
   bool SettingsExist() { return bFichierExiste(sFichierIni); }
 
  private:

@@ -29,6 +29,12 @@ TEST_F(HtmlQuestionsTest, TheUserIsAskedInThisOrder) {
                        u"Souhaitez-vous consulter le résultat de la génération ?"}));
 }
 
+TEST_F(HtmlQuestionsTest, ANameIsProposed) {
+  view.AnswerFile(u"");  // going back leaves what was proposed
+  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(Lib_Form().DialogueCommun().file_name, u"Fichier.htm");
+}
+
 TEST_F(HtmlQuestionsTest, TheTableIsChosenAmongThree) {
   view.AnswerFile(u"D:\\SITE\\Fichier.htm");
   view.Answer(BoxAnswer::kNo);
@@ -108,14 +114,22 @@ TEST_F(HtmlQuestionsTest, TheDetailsShowTheLastRowExported) {
 }
 
 TEST_F(HtmlQuestionsTest, OneTableAskedForLeavesTheOthersUntouched) {
-  disc.File("Z/A.ZIP", ZipArchive(5000));
-  disc.File("Z/B.ZIP", ZipArchive(5000));
-  disc.File("Z/C.ZIP", ZipArchive(5000));
+  for (const char* name : {"A", "B", "C"}) {
+    disc.File("Z/" + std::string(name) + ".ZIP", ZipArchive(5000));
+    Dos("INST/" + std::string(name) + "/SETUP.EXE");
+  }
   Scan();
   form.ZoneDesTableaux.SetTab(1);
-  form.GridLogiciel(0).SetRow(1);
-  form.GridLogiciel(2).SetRow(2);
-  form.GridLogiciel(2).SetCol(3);
+  for (int other : {0, 2}) {
+    Grid& grid = form.GridLogiciel(other);
+    ASSERT_EQ(grid.Rows(), 4) << other;
+    grid.SetRow(2);
+    grid.SetCol(3);
+  }
+  const auto expect_untouched = [this](int other) {
+    EXPECT_EQ(form.GridLogiciel(other).Row(), 2) << other;
+    EXPECT_EQ(form.GridLogiciel(other).Col(), 3) << other;
+  };
   std::vector<int> visited;
   const auto follow = form.ZoneDesTableaux.on_tab_click;
   form.ZoneDesTableaux.on_tab_click = [&](int previous) {
@@ -124,11 +138,14 @@ TEST_F(HtmlQuestionsTest, OneTableAskedForLeavesTheOthersUntouched) {
   };
   Export({.table = 1});
   EXPECT_EQ(visited, std::vector<int>());
-  EXPECT_EQ(form.GridLogiciel(2).Row(), 2);
-  EXPECT_EQ(form.GridLogiciel(2).Col(), 3);
+  expect_untouched(0);
+  expect_untouched(2);
+  EXPECT_THAT(Tables(), HasSubstr("#EXECUTBALE"));
+  EXPECT_THAT(Tables(), Not(HasSubstr("#SETUPINSTALL")));
   EXPECT_THAT(Tables(), Not(HasSubstr("#ZIP")));
   Export({.table = 2});
   EXPECT_EQ(visited, (std::vector<int>{2, 1}));
+  expect_untouched(0);
 }
 
 TEST_F(HtmlQuestionsTest, TheMouseGivesTheButtonTheFocusAndTellsWhatItDoes) {

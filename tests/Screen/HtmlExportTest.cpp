@@ -106,6 +106,23 @@ TEST_F(HtmlExportTest, ALocationWithoutAColonStaysWhole) {
   EXPECT_THAT(Tables(), HasSubstr("<TD> AILLEURS</TD>\r\n"));
 }
 
+TEST_F(HtmlExportTest, ALinkedLocationWithoutAColonStaysWhole) {
+  Game("JEUX", "DAMES", "Un jeu");
+  Dos("VIDE/RIEN.EXE");
+  Scan();
+  Grid& grid = form.GridLogiciel(1);
+  grid.SetRow(1);
+  grid.SetCol(1);
+  grid.SetText(u" \\JEUX");  // from the root of the drive in use
+  for (const bool keep : {false, true}) {
+    Export({.keep_drive = keep});
+    EXPECT_THAT(Tables(), HasSubstr("<TD><A HREF=\"Fichier_donnees.htm#_JEUX__DAMES_EXE\" "
+                                    "TARGET=\"data\"\">\\JEUX</A></TD>\r\n"))
+        << keep;
+    EXPECT_THAT(Data(), HasSubstr("<A NAME=\"_JEUX__DAMES_EXE\">")) << keep;
+  }
+}
+
 TEST_F(HtmlExportTest, AnEmptyTableLeavesNoTrace) {
   Game("JEUX", "DAMES", "Un jeu");
   Dos("JEUX/ECHECS.EXE");

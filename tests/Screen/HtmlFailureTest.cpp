@@ -31,6 +31,16 @@ TEST_F(HtmlQuestionsTest, APageThatCannotBeCreatedEndsTheCommandAndTheFramesetSt
   }
 }
 
+TEST_F(HtmlQuestionsTest, ATablePageStaysOpenWhereTheDataPageCannotBeCreated) {
+  disk.refused = u"D:\\SITE\\Fichier_donnees.htm";
+  Prepare({});
+  view.Answer(BoxAnswer::kOk);
+  Raise(form.ConvertHTML.on_click);
+  EXPECT_TRUE(IsOpenForOutput(u"D:\\SITE\\Fichier_tableaux.htm"));
+  EXPECT_FALSE(IsOpenForOutput(u"D:\\SITE\\Fichier.htm"));
+  EXPECT_EQ(FreeFile(), 2) << "its number is still taken";
+}
+
 TEST_F(HtmlQuestionsTest, ADiskFullFromTheStartIsReportedAndTheFilesAreClosed) {
   disk.room = 0;
   Prepare({});

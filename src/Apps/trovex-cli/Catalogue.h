@@ -16,7 +16,7 @@ bool IsEmptyTable(const Grid& grid);
 // What a click on each row showed, a JSON object a row, table by table.
 using Inspection = std::array<std::vector<std::string>, kTableCount>;
 
-// Clicks every row of tables 0, 1 and 2, without changing the tab.
+// Clicks every row of tables 0, 1 and 2, without changing the tab or the current cells.
 Inspection InspectRows(MainForm& form);
 
 // The whole catalogue as one JSON text with a line end; cells stand as in the grids. `inspection`

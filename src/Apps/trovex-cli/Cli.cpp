@@ -76,9 +76,10 @@ class Session {
       : options_(options),
         view_(view),
         ini_(NameOf(host, options.ini)),
-        html_(NameOf(host, options.html)),
-        pdf_(NameOf(host, options.pdf)),
-        ascii_{NameOf(host, options.csv), NameOf(host, options.prn), NameOf(host, options.txt)} {}
+        html_(TargetOf(host, options.html, ".htm")),
+        pdf_(TargetOf(host, options.pdf, ".pdf")),
+        ascii_{TargetOf(host, options.csv, ".csv"), TargetOf(host, options.prn, ".prn"),
+               TargetOf(host, options.txt, ".txt")} {}
 
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
@@ -99,6 +100,15 @@ class Session {
  private:
   static Text NameOf(Host& host, const std::optional<std::string>& argument) {
     return argument ? host.NameOf(*argument) : Text();
+  }
+
+  // A name without a point gets the extension, as the dialog for saving gives it to a user's.
+  static Text TargetOf(Host& host, const std::optional<std::string>& argument,
+                       const char* extension) {
+    if (!argument) return {};
+    const std::string last = argument->substr(argument->find_last_of("/\\") + 1);
+    const bool bare = !last.empty() && last.find('.') == std::string::npos;
+    return host.NameOf(bare ? *argument + extension : *argument);
   }
 
   void Print(MainForm& form, const Text& start, const Inspection* inspection, std::ostream& out) {
@@ -173,6 +183,7 @@ class Session {
     const auto is_error = [](const Box& box) {
       return box.text.starts_with(ResString(StringId::kErreurHtml)) ||
              box.text.starts_with(ResString(StringId::kErreurEcriture)) ||
+             box.text.starts_with(ResString(StringId::kErreurChangeCaractere)) ||  // a text lost
              box.text.starts_with(ResString(StringId::kErreurPdf)) ||
              box.text.starts_with(ResString(StringId::kDocumentTropLong)) ||
              box.text.starts_with(u"GridExport()");

@@ -84,11 +84,15 @@ Inspection InspectRows(MainForm& form) {
   Inspection inspection;
   for (int i = 0; i < kTableCount; ++i) {
     Grid& grid = form.GridLogiciel(i);
+    const int former_row = grid.Row(), former_col = grid.Col();
     for (int row = 1; row < grid.Rows() && !IsEmptyTable(grid); ++row) {
       grid.SetRow(row);
       Raise(grid.on_click);
       inspection[static_cast<std::size_t>(i)].push_back(DetailsOf(form));
     }
+    // A tab that comes up counts its table by the current row.
+    grid.SetRow(former_row);
+    grid.SetCol(former_col);
   }
   return inspection;
 }

@@ -45,7 +45,8 @@ bool Win32View::ShowFileDialog(CommonDialog& dialog) {
   const Text extension =
       dialog.default_extension.substr(dialog.default_extension.starts_with(u'.'));
   Text name = dialog.file_name.substr(0, kLongestName - 1);
-  // A pattern proposes what to show, not a name.
+  // A pattern says which files to show, which the filter does already. Left in the field it is a
+  // name that no file can bear: the dialog would not close on it.
   if (name.find_first_of(u"*?") != Text::npos) name.clear();
   name.resize(kLongestName);
   OPENFILENAMEW open = {};
