@@ -113,7 +113,9 @@ TEST_F(HtmlExportTest, ALinkedLocationWithoutAColonStaysWhole) {
   Grid& grid = form.GridLogiciel(1);
   grid.SetRow(1);
   grid.SetCol(1);
-  grid.SetText(u" \\JEUX");  // from the root of the drive in use
+  grid.SetText(u" \\JEUX");  // from the root of the current drive
+  const Text former = disc.GetPlatform().GetCurrentDirectory();
+  disc.GetPlatform().ChangeDrive(u"D:");
   for (const bool keep : {false, true}) {
     Export({.keep_drive = keep});
     EXPECT_THAT(Tables(), HasSubstr("<TD><A HREF=\"Fichier_donnees.htm#_JEUX__DAMES_EXE\" "
@@ -121,6 +123,7 @@ TEST_F(HtmlExportTest, ALinkedLocationWithoutAColonStaysWhole) {
         << keep;
     EXPECT_THAT(Data(), HasSubstr("<A NAME=\"_JEUX__DAMES_EXE\">")) << keep;
   }
+  disc.GetPlatform().ChangeDrive(former);
 }
 
 TEST_F(HtmlExportTest, AnEmptyTableLeavesNoTrace) {
