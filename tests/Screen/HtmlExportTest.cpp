@@ -111,19 +111,26 @@ TEST_F(HtmlExportTest, ALinkedLocationWithoutAColonStaysWhole) {
   Dos("VIDE/RIEN.EXE");
   Scan();
   Grid& grid = form.GridLogiciel(1);
-  grid.SetRow(1);
-  grid.SetCol(1);
-  grid.SetText(u" \\JEUX");  // from the root of the current drive
-  const Text former = disc.GetPlatform().GetCurrentDirectory();
-  disc.GetPlatform().ChangeDrive(u"D:");
+  const auto locate = [&grid](TextView location) {
+    if (grid.Row() != 1) return;
+    grid.SetCol(1);
+    grid.SetText(location);
+  };
+  // The text is found where it stands; the cell that is exported has no drive.
+  const auto click = grid.on_click;
+  grid.on_click = [&] {
+    locate(u" D:\\JEUX");
+    click();
+    locate(u" AILLEURS");
+  };
   for (const bool keep : {false, true}) {
     Export({.keep_drive = keep});
-    EXPECT_THAT(Tables(), HasSubstr("<TD><A HREF=\"Fichier_donnees.htm#_JEUX__DAMES_EXE\" "
-                                    "TARGET=\"data\"\">\\JEUX</A></TD>\r\n"))
+    EXPECT_THAT(Tables(), HasSubstr("<TD><A HREF=\"Fichier_donnees.htm#AILLEURS__DAMES_EXE\" "
+                                    "TARGET=\"data\"\">AILLEURS</A></TD>\r\n"))
         << keep;
-    EXPECT_THAT(Data(), HasSubstr("<A NAME=\"_JEUX__DAMES_EXE\">")) << keep;
+    EXPECT_THAT(Data(), HasSubstr("<A NAME=\"AILLEURS__DAMES_EXE\">")) << keep;
   }
-  disc.GetPlatform().ChangeDrive(former);
+  grid.on_click = click;
 }
 
 TEST_F(HtmlExportTest, AnEmptyTableLeavesNoTrace) {
