@@ -19,6 +19,7 @@ OsVersionInfo AskSystem() {
 
 COpSysInfo::COpSysInfo() {
   const OsVersionInfo info = AskSystem();
+  size_ = info.dwOSVersionInfoSize;
   major_ = static_cast<std::int32_t>(info.dwMajorVersion);
   minor_ = static_cast<std::int32_t>(info.dwMinorVersion);
   build_ = info.dwBuildNumber;

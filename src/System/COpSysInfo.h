@@ -13,6 +13,9 @@ class COpSysInfo {
  public:
   COpSysInfo();
 
+  // Size of the record that the answer came in.
+  std::uint32_t dwOSVersionInfoSize() const { return size_; }
+
   std::int32_t MajorVersion() const { return major_; }
   std::int32_t MinorVersion() const { return minor_; }
   // The low half of what the system gives, as a signed number of 16 bits.
@@ -30,6 +33,7 @@ class COpSysInfo {
   Text CSDVersion() const;
 
  private:
+  std::uint32_t size_;
   std::int32_t major_, minor_;
   std::uint32_t build_;
   std::int32_t platform_;

@@ -118,15 +118,18 @@ void Lib_SystemWinInfo::WriteCaptions() {
 }
 
 void Lib_SystemWinInfo::WriteValues() {
+  const Text sWindows = DirectoryOf(&Platform::GetWindowsDirectory);
+  const Text sSystem = DirectoryOf(&Platform::GetSystemDirectory);
   Text sNom, sVersion;
   LIB_SYSTEME::GetVersionSysteme(sNom, sVersion);
+  const Text sProcesseur = NameOfProcessor();
   MemoryStatus memory;
   const bool bMemoire = CurrentPlatform().GlobalMemoryStatus(memory);
-  LabelInfo(0).SetCaption(DirectoryOf(&Platform::GetWindowsDirectory));
-  LabelInfo(1).SetCaption(DirectoryOf(&Platform::GetSystemDirectory));
+  LabelInfo(0).SetCaption(sWindows);
+  LabelInfo(1).SetCaption(sSystem);
   LabelInfo(2).SetCaption(bMemoire ? sFormatMemoire(memory.dwTotalPhys) : Text());
   LabelInfo(3).SetCaption(bMemoire ? sFormatMemoire(memory.dwTotalVirtual) : Text());
-  LabelInfo(4).SetCaption(NameOfProcessor());
+  LabelInfo(4).SetCaption(sProcesseur);
   LabelInfo(5).SetCaption(sNom);
   LabelInfo(7).SetCaption(sVersion);
 }

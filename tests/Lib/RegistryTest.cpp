@@ -6,6 +6,7 @@ namespace trovex::test {
 namespace {
 
 constexpr RegistryRoot kMachine = RegistryRoot::kLocalMachine;
+constexpr std::uint32_t kUnexpanded = 2;  // type of a text with variables in it
 
 class RegistryTest : public MachineTest {
  protected:
@@ -110,9 +111,27 @@ TEST_F(RegistryTest, OfSeveralStringsTheFirstIsRead) {
   EXPECT_EQ(text, u"");
 }
 
+TEST_F(RegistryTest, AStringWithVariablesIsNotRead) {
+  const RegistryValue command = {kUnexpanded, Text(u"%SystemRoot%\\A.EXE\0", 19), {}};
+  Text text;
+  EXPECT_EQ(Read(command, text), -1);
+  EXPECT_EQ(text, u"");
+  EXPECT_EQ(sLireCleMachine(u"CLE", u"Nom"), u"");
+  machine.SetValue(RegistryRoot::kClassesRoot, u"classe\\shell\\open\\command", u"", command);
+  EXPECT_EQ(sCommandeOuverture(u"classe"), u"");
+}
+
+TEST_F(RegistryTest, TheDefaultValueOfAClassKeepsItsVariables) {
+  machine.SetValue(RegistryRoot::kClassesRoot, u"classe", u"",
+                   {kUnexpanded, Text(u"%SystemRoot%\\A.EXE,1\0", 21), {}});
+  EXPECT_EQ(sLireCleClasse(u"classe"), u"%SystemRoot%\\A.EXE,1");
+}
+
 TEST_F(RegistryTest, AnyOtherTypeAndAMissingValueAreNotRead) {
   Text text;
-  EXPECT_EQ(Read({2, u"abc", {}}, text), -1);
+  for (const std::uint32_t type : {0U, 5U, 8U, 11U}) {
+    EXPECT_EQ(Read({type, u"abc", {}}, text), -1) << type;
+  }
   EXPECT_EQ(text, u"");
   RegistryKey key = RegistryKey::kNone;
   machine.RegOpenKeyEx(kMachine, u"CLE", 63, key);

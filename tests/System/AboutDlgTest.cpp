@@ -69,6 +69,7 @@ TEST_F(AboutDlgTest, LoadingCentresTheWindowAndLaysThePictureOverAllOfIt) {
   form.Load();
   EXPECT_EQ(view.GetPointer(), Pointer::kHourglass);
   EXPECT_EQ(form.Left(), view.ScreenSize().width / 2 - form.Width() / 2);
+  EXPECT_EQ(form.Top(), view.ScreenSize().height / 2 - form.Height() / 2);
   EXPECT_EQ(form.ImageFond.GetPlace(), (Place{0, 0, form.ScaleWidth(), form.ScaleHeight()}));
   EXPECT_EQ(form.ImageFond.GetPicture(), (Picture{Picture::Source::kBitmap, u"ImageFond"}));
 }

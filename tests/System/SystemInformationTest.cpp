@@ -78,6 +78,7 @@ TEST_F(VersionTest, TheNumbersAreThoseOfTheSystem) {
   EXPECT_EQ(info.MinorVersion(), 10);
   EXPECT_EQ(info.PlatformID(), 1);
   EXPECT_EQ(info.Version(), u"Windows 98 v4.10, Build 1998");
+  EXPECT_EQ(info.dwOSVersionInfoSize(), 148U);
 }
 
 TEST_F(VersionTest, AServicePackFieldThatBeginsWithANulIsEmpty) {
@@ -101,6 +102,7 @@ TEST_F(VersionTest, TheSystemIsAskedOnceForEachObject) {
 TEST_F(VersionTest, ASystemThatDoesNotAnswerHasNoNumbers) {
   system.tells_version = false;
   const COpSysInfo info;
+  EXPECT_EQ(info.dwOSVersionInfoSize(), 148U);
   EXPECT_EQ(info.Version(), u"Windows NT v0.0, Build 0");
   EXPECT_EQ(info.CSDVersion(), u"");
 }
@@ -237,6 +239,13 @@ TEST_F(InformationToolTest, ADirectoryOfTheSecondKeyIsStartedAsItStands) {
     LIB_SYSTEME::LanceMSInfo();
     EXPECT_THAT(Started(), ElementsAre(u"D:\\OUTILS"));
   }
+}
+
+TEST_F(InformationToolTest, ADirectoryFoundUnderTheSecondKeyFailsAndSoComesToTheMessage) {
+  disc.Directory("OUTILS");
+  disc.File("OUTILS/MSINFO32.EXE", "MZ");
+  Location(u"D:\\OUTILS");
+  ExpectBox();
 }
 
 TEST_F(InformationToolTest, ThatNoKeyNamesIsNotThere) {

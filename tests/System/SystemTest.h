@@ -27,21 +27,36 @@ class FakeSystem : public ForwardingPlatform {
 
   // --- What was asked of it ---
   int versions_read = 0;
+  std::vector<Text> order;  // of the calls that a window shows the answers of
   std::vector<std::uint32_t> snapshot_flags, snapshot_processes;
   std::vector<SnapshotHandle> closed;
 
   bool GetVersionEx(OsVersionInfo& info) override {
     ++versions_read;
+    order.emplace_back(u"version");
     if (!tells_version || info.dwOSVersionInfoSize != 148) return false;
     info = version;
     return true;
   }
-  void GetSystemInfo(SystemInfo& info) override { info.dwProcessorType = processor; }
+  std::uint32_t GetWindowsDirectory(Text& buffer, std::uint32_t size) override {
+    order.emplace_back(u"windows");
+    return Target().GetWindowsDirectory(buffer, size);
+  }
+  std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) override {
+    order.emplace_back(u"system");
+    return Target().GetSystemDirectory(buffer, size);
+  }
+  void GetSystemInfo(SystemInfo& info) override {
+    order.emplace_back(u"processor");
+    info.dwProcessorType = processor;
+  }
   bool GlobalMemoryStatus(MemoryStatus& status) override {
+    order.emplace_back(u"memory");
     if (memory) status = *memory;
     return memory.has_value();
   }
   SnapshotHandle CreateToolhelp32Snapshot(std::uint32_t flags, std::uint32_t process) override {
+    order.emplace_back(u"programs");
     snapshot_flags.push_back(flags);
     snapshot_processes.push_back(process);
     return snapshot;

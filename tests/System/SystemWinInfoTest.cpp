@@ -87,6 +87,26 @@ TEST_F(SystemWinInfoTest, ShowsNameAndVersionOfTheSystem) {
   EXPECT_EQ(Value(7), u"4.10 (Build 1998)");
 }
 
+TEST_F(SystemWinInfoTest, AsksTheSystemFirstAndThenFillsTheLabelsInTheirOrder) {
+  // Notes the values beside the calls of the system.
+  class Watcher : public HeadlessView {
+   public:
+    explicit Watcher(std::vector<Text>& order) : order_(order) {}
+    void Changed(Control& control, Property property) override {
+      if (control.Name() != u"LabelInfo" || property != Property::kText) return;
+      order_.push_back(Decimal(control.Index()));
+    }
+
+   private:
+    std::vector<Text>& order_;
+  } watcher(system.order);
+  const ViewScope scope(watcher);
+  form.Load();
+  EXPECT_THAT(system.order, ElementsAre(u"windows", u"system", u"version", u"processor", u"memory",
+                                        u"0", u"1", u"2", u"3", u"4", u"5", u"7", u"programs"));
+  form.Unload();
+}
+
 // --- The processor ------------------------------------------------------------------------------
 
 TEST_F(SystemWinInfoTest, KnowsFiveProcessors) {

@@ -145,7 +145,10 @@ int FakeShell::FindExecutable(const Text& file, const Text& directory, Text& buf
 }
 
 void FakeShell::StartProgram(const Text& command_line, int mode) {
-  if (refuses_start) throw RuntimeError(ErrorNumber::kFileNotFound);
+  FileStatus status;
+  const bool directory =
+      GetFileStatus(command_line, status) && (status.attributes & kAttributeDirectory) != 0;
+  if (refuses_start || directory) throw RuntimeError(ErrorNumber::kFileNotFound);
   started.push_back({command_line, mode, GetCurrentDirectory()});
 }
 

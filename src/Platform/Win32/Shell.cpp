@@ -93,7 +93,6 @@ long Win32Platform::RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint3
                                  RegistryKey& key) {
   HKEY opened = nullptr;
   LSTATUS result = RegOpenKeyExW(Root(root), Wide(name), 0, access, &opened);
-  // A user without the right to write may still read.
   if (result == ERROR_ACCESS_DENIED) {
     result = RegOpenKeyExW(Root(root), Wide(name), 0, KEY_READ, &opened);
   }
@@ -110,7 +109,7 @@ long Win32Platform::RegQueryValueEx(RegistryKey key, const Text& name, RegistryV
                             reinterpret_cast<BYTE*>(bytes.data()), &size);
   if (result != ERROR_SUCCESS) return result;
   bytes.resize(size);
-  value = {type == REG_EXPAND_SZ ? kRegistryString : type, {}, {}};
+  value = {type, {}, {}};
   if (!IsText(type)) {
     value.bytes = std::move(bytes);
     return result;

@@ -14,6 +14,23 @@ std::uint32_t ToldToThirtyTwoBits(SIZE_T bytes) {
   return static_cast<std::uint32_t>(std::min<SIZE_T>(bytes, kMostMemory));
 }
 
+// The line of the Pentium goes on under another number in programs of 64 bits.
+std::uint32_t ProcessorTypeOf(DWORD native) {
+  constexpr DWORD kOfSixtyFourBits = 8664;
+  switch (native) {
+    case 386:
+    case 486:
+    case 586:
+    case 4000:
+    case 21064:
+      return native;
+    case kOfSixtyFourBits:
+      return 586;
+    default:
+      return 0;
+  }
+}
+
 using ProcessFunction = BOOL WINAPI(HANDLE, LPPROCESSENTRY32W);
 
 bool AskProcess(ProcessFunction* ask, HANDLE snapshot, ProcessEntry& entry) {
@@ -43,7 +60,7 @@ bool Win32Platform::GetVersionEx(OsVersionInfo& info) {
 void Win32Platform::GetSystemInfo(SystemInfo& info) {
   SYSTEM_INFO native = {};
   ::GetSystemInfo(&native);
-  info.dwProcessorType = native.dwProcessorType;
+  info.dwProcessorType = ProcessorTypeOf(native.dwProcessorType);
 }
 
 bool Win32Platform::GlobalMemoryStatus(MemoryStatus& status) {

@@ -75,6 +75,53 @@ TEST_F(Win32PlatformTest, ErrorCodesHaveTheSystemsText) {
   EXPECT_EQ(platform_.FormatMessage(0xDEADBEEF), u"");
 }
 
+// Every build for Windows is one for this line.
+TEST_F(Win32PlatformTest, AProcessorOf64BitsCountsToTheLineOfThePentium) {
+  SystemInfo info;
+  platform_.GetSystemInfo(info);
+  EXPECT_EQ(info.dwProcessorType, 586U);
+}
+
+// --- Registry -----------------------------------------------------------------------------------
+
+class RegistryContract : public Win32PlatformTest {
+ protected:
+  // A value of a key that every Windows has, and that not everybody may write.
+  RegistryValue Surroundings(const Text& name) {
+    constexpr std::uint32_t kAllAccess = 63;
+    RegistryKey key = RegistryKey::kNone;
+    EXPECT_EQ(
+        platform_.RegOpenKeyEx(RegistryRoot::kLocalMachine,
+                               u"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment",
+                               kAllAccess, key),
+        0);
+    RegistryValue value;
+    EXPECT_EQ(platform_.RegQueryValueEx(key, name, value), 0);
+    platform_.RegCloseKey(key);
+    return value;
+  }
+};
+
+TEST_F(RegistryContract, AStringWithVariablesKeepsThemAndItsType) {
+  const RegistryValue value = Surroundings(u"windir");
+  EXPECT_EQ(value.type, DWORD{REG_EXPAND_SZ});
+  EXPECT_EQ(ToUpper(value.text), Text(u"%SYSTEMROOT%\0", 13));
+  EXPECT_EQ(value.bytes, "");
+}
+
+TEST_F(RegistryContract, AStringKeepsItsTerminator) {
+  const RegistryValue value = Surroundings(u"PROCESSOR_ARCHITECTURE");
+  EXPECT_EQ(value.type, kRegistryString);
+  EXPECT_EQ(value.text, Text(u"AMD64\0", 6));
+}
+
+TEST_F(RegistryContract, AKeyThatIsMissingIsAnErrorAndOpensNothing) {
+  RegistryKey key = RegistryKey::kNone;
+  EXPECT_EQ(platform_.RegOpenKeyEx(RegistryRoot::kLocalMachine, u"SOFTWARE\\TrovexAbsent", 63, key),
+            ERROR_FILE_NOT_FOUND);
+  EXPECT_EQ(key, RegistryKey::kNone);
+}
+
 // --- Names that are no files --------------------------------------------------------------------
 
 TEST_F(Win32PlatformTest, DevicesAreNeitherFoundNorOpened) {

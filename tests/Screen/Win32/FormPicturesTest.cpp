@@ -152,7 +152,8 @@ TEST_F(FormPicturesTest, SystemWinInfo) {
 TEST_F(FormPicturesTest, AboutDlg) {
   Lib_AboutDlg form;
   form.LabelNom.SetCaption(u"Trovex");
-  form.LabelVersion.SetCaption(u"v1.0.0");
+  form.LabelVersion.SetCaption(u"v1.0.12");
+  form.LabelAccord.SetCaption(u"Version 32 bits pour Windows");
   LookAt(form);
 }
 
