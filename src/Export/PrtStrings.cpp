@@ -151,7 +151,8 @@ void PrtPreview::PutItemsString(const Text& a, const Text& b, const OptText& c, 
 
 void PrtPreview::PutItemsStringCmXY(const Text& a, const Text& b, double x, OptDouble Y,
                                     OptSize fntSize, const OptText& fntName, OptColour laColor) {
-  const double y = Y.value_or(GetCurrentCmY());
+  // Asking where the page stands may begin the next one: only where it is wanted.
+  const double y = Y ? *Y : GetCurrentCmY();
   const FontScope font(*this, fntSize, fntName, laColor);
   double xSuite = 0;
   if (!a.empty()) {

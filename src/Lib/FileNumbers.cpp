@@ -101,10 +101,11 @@ class OpenFile {
 
   void Flush() { FlushTo(handle_); }
 
+  // What could not be written is dropped: part of it may stand in the file, and the next flush
+  // would write it twice.
   void FlushTo(FileHandle handle) {
-    if (buffer_.empty()) return;
-    CurrentPlatform().Write(handle, buffer_.data(), buffer_.size());
-    buffer_.clear();
+    const std::string bytes = std::exchange(buffer_, {});
+    if (!bytes.empty()) CurrentPlatform().Write(handle, bytes.data(), bytes.size());
   }
 
   Text name_;

@@ -238,8 +238,9 @@ TEST_F(PrtPreviewTest, FlagType2And7ChangeNothingLikeAnyValueOutside1To9) {
     document.PutString(u"abc", type);
     document.PutString(u"def");
     Show(document);
-    EXPECT_TRUE(FontOfText(0).bold) << type;
-    EXPECT_TRUE(FontOfText(1).bold) << type;
+    EXPECT_EQ(FontOfText(0), (Font{u"Times New Roman", 9.75, true})) << type;
+    EXPECT_EQ(FontOfText(1), (Font{u"Times New Roman", 9.75, true})) << type;
+    EXPECT_TRUE(pages.pages[0].lines.empty()) << type;
   }
 }
 
@@ -334,6 +335,15 @@ TEST_F(PrtPreviewTest, LinesOfItemsFlowOntoTheNextPageTogether) {
   ASSERT_EQ(pages.pages.size(), 2u);
   EXPECT_EQ(Body(0).size(), 4 * kLinesAPage);
   EXPECT_EQ(Body(1).size(), 4u);
+}
+
+TEST_F(PrtPreviewTest, APlaceThatIsGivenLeavesAFullPageInHand) {
+  PrtPreview document;
+  Surface();
+  for (std::size_t i = 0; i < kLinesAPage; ++i) document.PutString(u"A");
+  document.PutItemsStringCmXY(u"Nom", u"valeur", 2, 5);
+  Show(document);
+  EXPECT_EQ(pages.pages.size(), 1u);
 }
 
 TEST_F(PrtPreviewTest, ALabelAtAPlaceHasItsValueBehindIt) {

@@ -211,6 +211,15 @@ TEST_F(FileNumbersTest, AFullDiskIsToldWhileWritingMuch) {
   EXPECT_EQ(ErrorOf([] { PrintLine(1, Text(100000, u'x')); }), ErrorNumber::kDiskFull);
 }
 
+TEST_F(FileNumbersTest, WhatCouldNotBeWrittenIsNotWrittenAgainAtTheEnd) {
+  OpenOutput(1, u"D:\\A.TXT");
+  platform.write_error = ErrorNumber::kDiskFull;
+  EXPECT_EQ(ErrorOf([] { PrintLine(1, Text(100000, u'x')); }), ErrorNumber::kDiskFull);
+  platform.write_error.reset();
+  CloseFile(1);
+  EXPECT_EQ(Contents(u"D:\\A.TXT"), "");
+}
+
 TEST_F(FileNumbersTest, ClosingEverythingTellsNoErrors) {
   disc.File("B.TXT");
   platform.write_error = ErrorNumber::kDiskFull;
