@@ -3,8 +3,10 @@
 
 #include "Export/LIB_OBJECT_GRID.h"
 #include "Lib/LIB_BUSY.h"
+#include "Lib/Lib_Form.h"
 #include "Lib/Lib_SelectDlg.h"
 #include "Platform/ForwardingPlatform.h"
+#include "Ui/CommonDialog.h"
 #include "Ui/FileListBox.h"
 #include "support/LogicTest.h"
 
@@ -151,12 +153,33 @@ TEST_F(GridExportTest, RowsStandInTheOrderOfTheGrid) {
   EXPECT_EQ(Contents("A.TXT"), " Nom, Lieu, Date\r\na,b c,\r\nz,y,x\r\nb,b,b\r\n");
 }
 
+TEST_F(GridExportTest, EachFormatProposesItsNameFilterAndExtension) {
+  struct Proposal {
+    Text name, filter, extension;
+  };
+  const Proposal proposals[] = {
+      {u"Fichier.csv", u"Fichiers CSV (*.csv)|*.csv", u".csv"},
+      {u"Fichier.prn", u"PRN File (*.prn)|*.prn", u".prn"},
+      {u"Fichier.txt", u"Fichiers TXT (*.txt)|*.txt", u".txt"},
+  };
+  for (int format = 0; format < 3; ++format) {
+    Choose(format);
+    view.AnswerFile({});  // going back leaves what was proposed
+    GridExportAscii(grid_);
+    const CommonDialog& dialog = Lib_Form().DialogueCommun();
+    EXPECT_EQ(dialog.file_name, proposals[format].name);
+    EXPECT_EQ(dialog.filter, proposals[format].filter);
+    EXPECT_EQ(dialog.default_extension, proposals[format].extension);
+  }
+}
+
 TEST_F(GridExportTest, ACancelledFormatChoiceLeavesNoFileAndNoHourglass) {
   view.AnswerForm([](Form& form) { static_cast<Lib_SelectDlg&>(form).Annuler().Press(); });
   BusyOn();
   GridExportAscii(grid_);
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
   EXPECT_THAT(view.FileDialogs(), IsEmpty());
+  EXPECT_EQ(FilesOnTheDisc(), 0);
 }
 
 TEST_F(GridExportTest, ACancelledFileDialogLeavesNoFileAndNoHourglass) {
