@@ -2,21 +2,17 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <optional>
-#include <string_view>
 
-#include "Platform/Encoding.h"
 #include "Platform/Posix/HostCalls.h"
 #include "Platform/Posix/Listing.h"
 #include "Platform/Posix/LocalDate.h"
-#include "Platform/Posix/ProfileFile.h"
+#include "Platform/Records/ProfileFile.h"
 
 namespace trovex::posix {
 namespace {
 
-constexpr std::size_t kProfilePiece = 4096;  // read at a time, a whole part of kMaxProfile
+constexpr std::size_t kProfilePiece = 4096;  // read at a time, a whole part of the most
 
 }  // namespace
 
@@ -41,22 +37,13 @@ std::size_t FileSource::ReadAt(std::uint64_t offset, char* buffer, std::size_t s
 int ReadProfile(const FileDescriptor& file, std::string& bytes) {
   if (!file.IsOpen()) return errno;
   char piece[kProfilePiece];
-  while (bytes.size() < kMaxProfile) {
+  while (bytes.size() < records::kMaxProfile) {
     const std::ptrdiff_t got = ReadFully(file.Get(), piece, sizeof piece);
     if (got < 0) return errno;
     bytes.append(piece, static_cast<std::size_t>(got));
     if (static_cast<std::size_t>(got) < sizeof piece) break;
   }
   return 0;
-}
-
-std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,
-                            const Text& fallback, Text& buffer, std::uint32_t size) {
-  const std::optional<std::string_view> value = FindProfileValue(bytes, section, key);
-  // Without trailing blanks; none but blanks leaves nothing.
-  buffer = value ? FromCp1252(*value) : fallback.substr(0, fallback.find_last_not_of(u' ') + 1);
-  buffer.resize(std::min<std::size_t>(buffer.size(), size == 0 ? 0 : size - 1));
-  return static_cast<std::uint32_t>(buffer.size());
 }
 
 }  // namespace trovex::posix

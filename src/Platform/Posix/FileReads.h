@@ -8,7 +8,7 @@
 
 #include "Platform/Platform.h"
 #include "Platform/Posix/FileDescriptor.h"
-#include "Platform/Posix/VersionResource.h"
+#include "Platform/Records/ByteSource.h"
 
 namespace trovex::posix {
 
@@ -16,7 +16,7 @@ namespace trovex::posix {
 bool StatusOf(const struct stat& host, TextView name, FileStatus& status);
 
 // Reads at offsets from an open file, which must outlive it.
-class FileSource : public ByteSource {
+class FileSource : public records::ByteSource {
  public:
   explicit FileSource(const FileDescriptor& file) : file_(file) {}
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override;
@@ -25,15 +25,8 @@ class FileSource : public ByteSource {
   const FileDescriptor& file_;
 };
 
-// What stands behind this in a profile file is not read, and a longer file is not written.
-inline constexpr std::size_t kMaxProfile = 1 << 20;
-
-// Appends what the file holds to `bytes`; 0, or the errno of the failure.
+// Appends what the file holds, at most records::kMaxProfile bytes, to `bytes`; 0, or the errno of
+// the failure.
 int ReadProfile(const FileDescriptor& file, std::string& bytes);
-
-// The answer of GetPrivateProfileString where the file holds `bytes`; a file without any stands for
-// one that is missing.
-std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,
-                            const Text& fallback, Text& buffer, std::uint32_t size);
 
 }  // namespace trovex::posix

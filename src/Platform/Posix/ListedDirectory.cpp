@@ -6,6 +6,8 @@
 
 #include "Platform/Posix/Errors.h"
 #include "Platform/Posix/FileReads.h"
+#include "Platform/Records/ProfileFile.h"
+#include "Platform/Records/VersionResource.h"
 
 namespace trovex::posix {
 
@@ -61,7 +63,7 @@ bool ListedDirectory::GetFileProperties(const ListedEntry& entry, FileStatus& st
   if (!file.IsOpen()) return GetFileStatus(entry, status);
   if (fstat(file.Get(), &host) != 0 || !StatusOf(host, entry.name, status)) return false;
   FileSource source(file);
-  record = ReadVersionRecord(source);
+  record = records::ReadVersionRecord(source);
   return true;
 }
 
@@ -71,7 +73,7 @@ std::uint32_t ListedDirectory::GetPrivateProfileString(const Text& section, cons
                                                        const ListedEntry& entry) {
   std::string bytes;
   if (ReadProfile(OpenFile(entry), bytes) != 0) bytes.clear();
-  return ProfileAnswer(bytes, section, key, fallback, buffer, size);
+  return records::ProfileAnswer(bytes, section, key, fallback, buffer, size);
 }
 
 }  // namespace trovex::posix

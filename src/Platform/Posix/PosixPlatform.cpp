@@ -12,13 +12,15 @@
 #include "Platform/Posix/FileReads.h"
 #include "Platform/Posix/HostCalls.h"
 #include "Platform/Posix/ListedDirectory.h"
-#include "Platform/Posix/ProfileFile.h"
 #include "Platform/Posix/Replacement.h"
 #include "Platform/Posix/SystemData.h"
+#include "Platform/Records/ProfileFile.h"
+#include "Platform/Records/VersionResource.h"
 
 namespace trovex {
 
 using namespace posix;
+using namespace records;
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "Platform/Posix/VersionResource.h"
+#include "Platform/Records/VersionResource.h"
 
-namespace trovex::posix {
+namespace trovex::records {
 namespace {
 
 constexpr std::size_t kFileHeaderSize = 24;  // signature and file header
@@ -170,4 +170,4 @@ bool HasPeResource(ByteReader& file, std::uint64_t header, std::uint16_t type) {
   return names && tree.FirstTable(*names).has_value();
 }
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

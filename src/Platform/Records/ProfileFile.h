@@ -1,13 +1,18 @@
 // Profile (INI) files as bytes in, bytes out: nothing here touches the disk.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "Platform/Text.h"
 
-namespace trovex::posix {
+namespace trovex::records {
+
+// What stands behind this in a profile file is not read, and a longer file is not written.
+inline constexpr std::size_t kMaxProfile = 1 << 20;
 
 // The value of the first matching key in the first matching section, in Windows-1252, without
 // blanks and tabs at its ends and without one pair of matching quotes; a view into `file`. Nothing
@@ -15,9 +20,14 @@ namespace trovex::posix {
 std::optional<std::string_view> FindProfileValue(std::string_view file, TextView section,
                                                  TextView key);
 
+// The answer of GetPrivateProfileString where the file holds `bytes`; a file without any stands for
+// one that is missing.
+std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,
+                            const Text& fallback, Text& buffer, std::uint32_t size);
+
 // `file` with the value in its place: that of the first matching key, else the end of the first
 // matching section, before its trailing empty lines, else a new section at the end. All other
 // lines keep their bytes.
 std::string WithProfileValue(std::string_view file, TextView section, TextView key, TextView value);
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

@@ -1,12 +1,12 @@
-#include "Platform/Posix/ProfileFile.h"
+#include "Platform/Records/ProfileFile.h"
 
 #include <gtest/gtest.h>
 
 namespace trovex::test {
 namespace {
 
-using posix::FindProfileValue;
-using posix::WithProfileValue;
+using records::FindProfileValue;
+using records::WithProfileValue;
 
 TEST(ProfileFile, FindsWithoutRegardToCase) {
   EXPECT_EQ(FindProfileValue("[Setup]\r\nTitle=Jeu\r\n", u"SETUP", u"title"), "Jeu");

@@ -1,8 +1,8 @@
-#include "Platform/Posix/ByteReader.h"
+#include "Platform/Records/ByteReader.h"
 
 #include <limits>
 
-namespace trovex::posix {
+namespace trovex::records {
 namespace {
 
 // The one overflow check: no offset beyond this is read at, so sums of an offset and a size, or
@@ -59,4 +59,4 @@ bool ByteReader::Copy(std::uint64_t offset, std::size_t size, std::string& bytes
   return false;
 }
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

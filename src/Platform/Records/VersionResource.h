@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "Platform/Posix/ByteReader.h"
+#include "Platform/Records/ByteReader.h"
 
-namespace trovex::posix {
+namespace trovex::records {
 
 // The version record in the version resource (type 16) of an NE executable, or of a PE executable
 // in that of the first name's first language. The record's first field tells its length; what a
@@ -28,4 +28,4 @@ bool HasPeResource(ByteReader& file, std::uint64_t header, std::uint16_t type);
 // Larger resources are no version resources.
 inline constexpr std::size_t kMaxVersionResource = 65536;
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

@@ -1,4 +1,4 @@
-#include "Platform/Posix/VersionResource.h"
+#include "Platform/Records/VersionResource.h"
 
 #include <gtest/gtest.h>
 
@@ -11,10 +11,10 @@
 namespace trovex::test {
 namespace {
 
-using posix::ReadVersionRecord;
+using records::ReadVersionRecord;
 
 // A file in memory that counts how often and how much it is read.
-class MemorySource : public posix::ByteSource {
+class MemorySource : public records::ByteSource {
  public:
   explicit MemorySource(std::string_view bytes) : bytes_(bytes) {}
 
@@ -88,7 +88,7 @@ TEST(VersionResource, EveryOverwrittenNumberGivesABoundedAnswer) {
         SetNumber(file, at, number, 4);
         MemorySource source(file);
         const std::string found = ReadVersionRecord(source);
-        ASSERT_LE(found.size(), posix::kMaxVersionResource) << sample.name << ' ' << at;
+        ASSERT_LE(found.size(), records::kMaxVersionResource) << sample.name << ' ' << at;
         ASSERT_TRUE(found.empty() || file.find(found) != std::string::npos) << at;
         ASSERT_LE(source.reads, 1100) << sample.name << ' ' << at;
       }
@@ -103,7 +103,7 @@ TEST(VersionResource, RandomDamageGivesABoundedAnswer) {
       std::string file = sample.file;
       for (int i = 0; i < 8; ++i) file[random() % file.size()] = static_cast<char>(random());
       const std::string found = VersionOf(file);
-      ASSERT_LE(found.size(), posix::kMaxVersionResource);
+      ASSERT_LE(found.size(), records::kMaxVersionResource);
       ASSERT_TRUE(found.empty() || file.find(found) != std::string::npos);
     }
   }
@@ -133,7 +133,7 @@ TEST(VersionResource, TooManySectionsOrTooLargeARecordGiveNone) {
   SetNumber(file, header + 6, 97, 2);
   EXPECT_EQ(VersionOf(file), "");
   std::string large = VersionBlock8(kStrings);
-  large.resize(posix::kMaxVersionResource + 1);
+  large.resize(records::kMaxVersionResource + 1);
   EXPECT_EQ(VersionOf(PeExecutable(large)), "");
   large.pop_back();
   EXPECT_EQ(VersionOf(PeExecutable(large)), VersionBlock8(kStrings));

@@ -1,8 +1,10 @@
-#include "Platform/Posix/ProfileFile.h"
+#include "Platform/Records/ProfileFile.h"
+
+#include <algorithm>
 
 #include "Platform/Encoding.h"
 
-namespace trovex::posix {
+namespace trovex::records {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
@@ -111,6 +113,15 @@ std::optional<std::string_view> FindProfileValue(std::string_view file, TextView
   return WithoutQuotes(spot.key->value);
 }
 
+std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,
+                            const Text& fallback, Text& buffer, std::uint32_t size) {
+  const std::optional<std::string_view> value = FindProfileValue(bytes, section, key);
+  // Without trailing blanks; none but blanks leaves nothing.
+  buffer = value ? FromCp1252(*value) : fallback.substr(0, fallback.find_last_not_of(u' ') + 1);
+  buffer.resize(std::min<std::size_t>(buffer.size(), size == 0 ? 0 : size - 1));
+  return static_cast<std::uint32_t>(buffer.size());
+}
+
 std::string WithProfileValue(std::string_view file, TextView section, TextView key,
                              TextView value) {
   key = StrippedKey(key);
@@ -131,4 +142,4 @@ std::string WithProfileValue(std::string_view file, TextView section, TextView k
   return result.append(rest);
 }
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

@@ -1,6 +1,6 @@
-#include "Platform/Posix/VersionResource.h"
+#include "Platform/Records/VersionResource.h"
 
-namespace trovex::posix {
+namespace trovex::records {
 namespace {
 
 constexpr std::size_t kNeHeaderSize = 0x40;
@@ -66,4 +66,4 @@ bool HasNeResource(ByteReader& file, std::uint64_t header, std::uint16_t type) {
   return FindType(file, header, kNumbered | type).has_value();
 }
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

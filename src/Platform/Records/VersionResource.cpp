@@ -1,6 +1,6 @@
-#include "Platform/Posix/VersionResource.h"
+#include "Platform/Records/VersionResource.h"
 
-namespace trovex::posix {
+namespace trovex::records {
 namespace {
 
 constexpr std::uint16_t kDosSignature = 0x5A4D;  // "MZ"
@@ -70,4 +70,4 @@ bool HoldsIcon(ByteSource& source) {
   return IsIconFile(file);
 }
 
-}  // namespace trovex::posix
+}  // namespace trovex::records

@@ -7,15 +7,9 @@
 #include <string>
 #include <string_view>
 
-namespace trovex::posix {
+#include "Platform/Records/ByteSource.h"
 
-// Where bytes come from.
-class ByteSource {
- public:
-  virtual ~ByteSource() = default;
-  // Up to `size` bytes from `offset` on, none only where the source ends or cannot be read.
-  virtual std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) = 0;
-};
+namespace trovex::records {
 
 // A run of bytes with its numbers.
 class ByteView {
@@ -54,4 +48,4 @@ class ByteReader {
   char window_[kWindow];
 };
 
-}  // namespace trovex::posix
+}  // namespace trovex::records
