@@ -18,10 +18,20 @@ die() {
 packages_native=(g++ cmake ninja-build ccache googletest nlohmann-json3-dev libcli11-dev)
 packages_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
 # Of what Wine only recommends: the libraries of its windows, and letters to write in them.
-packages_wine=(wine64 xvfb libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 libxcomposite1
+packages_windows_of_wine=(libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 libxcomposite1
   libxinerama1 fonts-liberation)
+packages_wine=(wine64 xvfb "${packages_windows_of_wine[@]}")
+# Those in the i386 root of packaging/wine-root.
+packages_wine32=(wine wine32 "${packages_windows_of_wine[@]}")
 packages_checks=(python3 clang-format-14 poppler-utils)
 packages_pictures=(xdotool imagemagick)
+
+# Where packaging/wine-root puts the 32-bit Wine, for all checkouts of the user.
+wine_root=${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/trovex/wine-i386
+
+# How to have mount points of one's own: unshare "${unshare_as[@]}" COMMAND.
+unshare_as=(--mount --propagation private)
+[ "$(id -u)" = 0 ] || unshare_as+=(--map-root-user)
 
 missing_packages() {
   local package
