@@ -95,14 +95,17 @@ bool IsPlain(std::string_view name) {
 }
 
 // The first units of a name, upper-cased and a byte each, as a number: names of different keys
-// stand in the order of the keys. All units above FE count as one, which leaves that order whole.
+// stand in the order of the keys. A unit that a byte cannot hold counts as the highest, and nothing
+// behind it takes part: what follows two such units says nothing before they are compared.
 std::uint64_t KeyOf(TextView name) {
+  constexpr std::uint64_t kHighest = 0xFF;
   std::uint64_t key = 0;
-  const std::size_t size = std::min(name.size(), kKeyUnits);
-  for (std::size_t i = 0; i < size; ++i) {
-    key = key << 8 | std::min<std::uint64_t>(ToUpper(name[i]), 0xFF);
+  std::size_t held = 0;
+  while (held < std::min(name.size(), kKeyUnits)) {
+    const std::uint64_t unit = std::min<std::uint64_t>(ToUpper(name[held]), kHighest);
+    key |= unit << 8 * (kKeyUnits - ++held);
+    if (unit == kHighest) break;
   }
-  for (std::size_t i = size; i < kKeyUnits; ++i) key <<= 8;
   return key;
 }
 

@@ -2,9 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <random>
 #include <vector>
 
+#include "Platform/Encoding.h"
 #include "support/TestDisc.h"
 
 namespace trovex::test {
@@ -28,6 +31,86 @@ TEST(Listing, ComesInOrderOfUpperCasedNames) {
   // The underscore lies behind the capitals and before the small letters.
   for (const char* name : {"b", "A_", "Ab", "a", "C", "É", "z"}) disc.File(name);
   EXPECT_THAT(NamesIn(disc), ElementsAre(u"a", u"Ab", u"A_", u"b", u"C", u"z", u"É"));
+}
+
+TEST(Listing, NamesBeyondLatinComeInOrderOfTheirFirstDifference) {
+  TestDisc disc;
+  for (const char* name : {"日本", "Жук", "ŽO", "ŒU", "ÿa", "ÿB"}) disc.File(name);
+  EXPECT_THAT(NamesIn(disc), ElementsAre(u"ŒU", u"ÿa", u"ÿB", u"ŽO", u"Жук", u"日本"));
+}
+
+// The order told plainly: upper-cased, then code unit by code unit.
+bool ComesBefore(const Text& a, const Text& b) {
+  const auto upper = [](char16_t unit) { return ToUpper(unit); };
+  Text x = a, y = b;
+  std::transform(x.begin(), x.end(), x.begin(), upper);
+  std::transform(y.begin(), y.end(), y.begin(), upper);
+  return std::lexicographical_compare(x.begin(), x.end(), y.begin(), y.end());
+}
+
+// Random host names from few characters of many scripts, so that many share their beginnings. No
+// two are the same without regard to case.
+std::vector<std::string> RandomNames(std::size_t count) {
+  const std::vector<std::string> characters = {"a",
+                                               "B",
+                                               "b",
+                                               "_",
+                                               "~",
+                                               "1",
+                                               "é",
+                                               "É",
+                                               "þ",
+                                               "ÿ",
+                                               "Ÿ",
+                                               "Ā",
+                                               "ž",
+                                               "Œ",
+                                               "λ",
+                                               "Ж",
+                                               "ж",
+                                               "א",
+                                               "ก",
+                                               "日",
+                                               "本",
+                                               "한",
+                                               "\xEF\xBC\xA1",
+                                               "\xEF\xBF\xBD",
+                                               "\xF0\x9F\x98\x80",
+                                               "\x80",
+                                               "\xED\xA0",
+                                               "\xFF"};
+  std::mt19937 random(1997);
+  const auto below = [&](std::size_t end) { return random() % end; };
+  std::vector<std::string> names;
+  std::vector<Text> taken;
+  while (names.size() < count) {
+    std::string name;
+    for (std::size_t left = 1 + below(12); left > 0; --left) {
+      // Every other character from the first six: equal beginnings of all lengths.
+      name += characters[below(below(2) == 0 ? 6 : characters.size())];
+    }
+    Text upper = ToUpper(FromUtf8(name));
+    if (std::find(taken.begin(), taken.end(), upper) != taken.end()) continue;
+    taken.push_back(std::move(upper));
+    names.push_back(name);
+  }
+  return names;
+}
+
+TEST(Listing, RandomNamesOfAllScriptsComeInThePlainOrderAndAreFound) {
+  TestDisc disc;
+  std::vector<Text> expected;
+  for (const std::string& name : RandomNames(2000)) {
+    disc.File(name);
+    expected.push_back(FromUtf8(name));
+  }
+  std::sort(expected.begin(), expected.end(), ComesBefore);
+  EXPECT_EQ(NamesIn(disc), expected);
+  const auto listing = Listing::Read(disc.HostPath("").string());
+  for (const Text& name : expected) {
+    EXPECT_EQ(listing->Find(ToLower(name))->name, name);
+    EXPECT_FALSE(listing->Find(name + char16_t{0xD800}));
+  }
 }
 
 TEST(Listing, NamesThatDifferOnlyInCaseAreNumbered) {
