@@ -50,6 +50,12 @@ void Form::Adopt(std::unique_ptr<Control> control, const Text& name) {
   controls_.push_back(std::move(control));
 }
 
+MenuEntry& Form::AddMenuEntry(Text caption) {
+  menu_entries_.push_back(std::make_unique<MenuEntry>(*this, std::move(caption)));
+  MenuChanged();
+  return *menu_entries_.back();
+}
+
 Control* Form::Find(TextView name, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
     return control->Index() == index && control->Name() == name;

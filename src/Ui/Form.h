@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Ui/FormSpec.h"
+#include "Ui/MenuEntry.h"
 
 namespace trovex {
 
@@ -29,6 +30,13 @@ class Form : public Control {
 
   // Takes a control that the form's table does not hold; it goes with the form.
   void Adopt(std::unique_ptr<Control> control, const Text& name);
+
+  // Adds an entry to the menu of the form's window, behind those of the system and those added
+  // before. It goes with the form.
+  MenuEntry& AddMenuEntry(Text caption);
+  const std::vector<std::unique_ptr<MenuEntry>>& MenuEntries() const { return menu_entries_; }
+  // An entry tells its form so.
+  void MenuChanged() { Notify(Property::kMenu); }
 
   const Text& Caption() const { return caption_; }
   void SetCaption(TextView caption);
@@ -79,6 +87,7 @@ class Form : public Control {
   void AlignStatusBars();
 
   std::vector<std::unique_ptr<Control>> controls_;
+  std::vector<std::unique_ptr<MenuEntry>> menu_entries_;
   Text caption_;
   bool sizable_;
   Extent frame_ = kWindowFrame;

@@ -25,6 +25,7 @@ enum class Property {
   kList,       // entries of a list, rows of a grid
   kSelection,  // ListIndex, current cell, tab, value of an option
   kCell,       // the text of a grid's current cell
+  kMenu,       // entries of a form's window menu
   kOther,
 };
 

@@ -184,6 +184,39 @@ TEST_F(FormTest, ALoadedFormTellsTheViewOfChangesAlone) {
   EXPECT_THAT(view.journal, ElementsAre(u"Oui", u"Oui", u"Oui", u"Oui"));
 }
 
+TEST_F(FormTest, EntriesOfTheWindowMenuAreChosenAndTurnedByTheirEvents) {
+  int opened = 0;
+  form.AddMenuEntry(u"&Ouvrir...").on_click = [&] { ++opened; };
+  MenuEntry& mark = form.AddMenuEntry(u"&Marque");
+  mark.on_click = [&] { mark.SetChecked(!mark.Checked()); };
+  ASSERT_EQ(form.MenuEntries().size(), 2u);
+  EXPECT_EQ(form.MenuEntries()[0]->Caption(), u"&Ouvrir...");
+  EXPECT_FALSE(mark.Checked());
+  form.MenuEntries()[1]->Choose();
+  EXPECT_TRUE(mark.Checked());
+  form.MenuEntries()[1]->Choose();
+  EXPECT_FALSE(mark.Checked());
+  EXPECT_EQ(opened, 0);
+  form.MenuEntries()[0]->Choose();
+  EXPECT_EQ(opened, 1);
+}
+
+TEST_F(FormTest, TheViewIsToldOfTheWindowMenuOfALoadedForm) {
+  MenuEntry& entry = form.AddMenuEntry(u"Marque");
+  EXPECT_THAT(view.journal, IsEmpty());
+  form.Load();
+  view.journal.clear();
+  entry.SetChecked(true);
+  entry.SetChecked(true);
+  form.AddMenuEntry(u"Autre");
+  EXPECT_THAT(view.journal, ElementsAre(u"Essai", u"Essai"));
+}
+
+TEST_F(FormTest, AnEntryThatNobodyListensToDoesNothing) {
+  form.AddMenuEntry(u"Muet").Choose();
+  EXPECT_FALSE(form.MenuEntries()[0]->Checked());
+}
+
 TEST_F(FormTest, FocusAndRepaintReachTheViewOfALoadedForm) {
   Button& button = form.Get<Button>(u"Oui");
   button.SetFocus();

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "Ui/Win32/FormWindow.h"
+#include "Ui/Win32/SystemMenu.h"
 #include "Ui/Win32/Win32View.h"
 
 namespace trovex::win32 {
@@ -38,6 +39,12 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
     case WM_CLOSE:
       Run([this] { form_.Close(); });
       return 0;
+    case WM_SYSCOMMAND:
+      if (const MenuEntry* entry = EntryOfCommand(form_, w)) {
+        Run([entry] { entry->Choose(); });
+        return 0;
+      }
+      break;
     case WM_SIZE:
       OnSize(w);
       return 0;

@@ -4,6 +4,7 @@
 
 #include "Platform/Win32/Names.h"
 #include "Ui/Win32/Surface.h"
+#include "Ui/Win32/SystemMenu.h"
 #include "Ui/Win32/Win32View.h"
 
 namespace trovex::win32 {
@@ -53,6 +54,7 @@ void FormWindow::CreateWindowAndControls() {
                             CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr,
                             GetModuleHandleW(nullptr), this);
   scale_.dpi = DpiOf(handle_);
+  MirrorSystemMenu(handle_, form_);
   PlaceWindow();
   for (const auto& control : form_.Controls()) {
     auto window = CreateNativeControl(*control, *this);
@@ -105,6 +107,9 @@ void FormWindow::MirrorForm(Property property) {
       break;
     case Property::kPlace:
       PlaceWindow();
+      break;
+    case Property::kMenu:
+      MirrorSystemMenu(handle_, form_);
       break;
     case Property::kVisible:
       Flush();
