@@ -48,6 +48,7 @@ const std::unordered_map<StringId, Text>& Table() {
       {StringId::kTailleEnKo, u" Taille en Ko"},
       {StringId::kDate, u" Date"},
       {StringId::kExplorationRepertoire, u"Exploration du répertoire : "},
+      {StringId::kRepertoireIntrouvable, u"Répertoire introuvable"},
       {StringId::kOctets, u"octets"},
       {StringId::kPasDeNomProduit, u"Ne contient pas de nom produit."},
       {StringId::kProgrammeAmorcage, u"Programme d'amorçage"},

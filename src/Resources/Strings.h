@@ -48,6 +48,7 @@ enum class StringId : int {
   kDate = 305,
   kExplorationRepertoire = 310,
   kOctets = 311,
+  kRepertoireIntrouvable = 316,
   kPasDeNomProduit = 312,
   kProgrammeAmorcage = 313,
   kMsSetup = 314,

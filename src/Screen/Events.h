@@ -11,6 +11,8 @@ void Form_Resize(MainForm& form);
 void Form_Paint(MainForm& form);
 void Form_Unload(MainForm& form);
 void ListeDrive_Change(MainForm& form);
+// Reads labels, drives and directories afresh, without a word where something has gone.
+void UpdateDrives(MainForm& form);
 void CommandOption_Click();
 void Apropos_Click(MainForm& form);
 
@@ -20,7 +22,8 @@ void BindHelpLine(MainForm& form);
 // AccessibleNames.cpp: what a screen reader says.
 void NameControls(MainForm& form);
 
-// Exploration.cpp: scans from the highlighted directory, then shows the largest table.
+// Exploration.cpp: scans from the highlighted directory, then shows the largest table. Where that
+// directory has gone only the status line says so.
 void Explorer_Click(MainForm& form);
 
 // RowInspector.cpp: turns the current row of a table into the full picture of its file. Every error

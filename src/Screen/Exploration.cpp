@@ -3,6 +3,7 @@
 #include "Platform/ScanCache.h"
 #include "Resources/Strings.h"
 #include "Screen/Events.h"
+#include "Ui/Directory.h"
 
 namespace trovex {
 namespace {
@@ -55,7 +56,11 @@ void ShowTable(MainForm& form, int iTableau) {
 
 }  // namespace
 
+// What was read of a disc is old by now: it may have been changed since.
 void Explorer_Click(MainForm& form) {
+  const Text start = StartingDirectory(form);
+  UpdateDrives(form);
+  if (!DirectoryExists(start)) return MainMsg(ResString(StringId::kRepertoireIntrouvable));
   BusyOn(ResString(StringId::kExplorationRepertoire) + StartingDirectory(form) + u"...");
   ClearWindow(form);
   Walk(form);

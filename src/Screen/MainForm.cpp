@@ -112,6 +112,9 @@ void MainForm::BindEvents() {
     if (key == kKeyF1) AfficheAide({});
   };
   ListeDrive.on_change = [this] { ListeDrive_Change(*this); };
+  on_drives_changed = [this] { UpdateDrives(*this); };
+  ListeDrive.on_again = on_drives_changed;
+  ListeDrive.on_drop_down = on_drives_changed;
   Explorer.on_click = [this] { Explorer_Click(*this); };
   ConvertHTML.on_click = [this] { ConvertHTML_Click(*this); };
   Exporter.on_click = [this] { Exporter_Click(*this); };

@@ -88,6 +88,7 @@ void ListeDrive_Change(MainForm& form) {
   const Text sAncien = form.ListeRepertoire.Path();
   try {
     form.ListeRepertoire.SetPath(form.ListeDrive.Drive());
+    form.ListeDrive.Update();
   } catch (const RuntimeError& error) {
     IgnoringErrors([&] { form.ListeDrive.SetDrive(sAncien); });
     Err().Set(error);
@@ -95,6 +96,12 @@ void ListeDrive_Change(MainForm& form) {
                   ResString(StringId::kLecteurCdRom) + Text(kCrLf) +
                   ResString(StringId::kLecteurVide));
   }
+}
+
+void UpdateDrives(MainForm& form) {
+  CurrentPlatform().Forget();
+  form.ListeDrive.Update();
+  form.ListeRepertoire.Update();
 }
 
 }  // namespace trovex

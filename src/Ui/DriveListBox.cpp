@@ -3,27 +3,59 @@
 namespace trovex {
 namespace {
 
-Text EntryOf(char16_t letter) {
-  const Text root = {letter, u':', u'\\'};
-  const Text label = CurrentPlatform().GetVolumeLabel(root);
+Text Root(char16_t letter) {
+  return {letter, u':', u'\\'};
+}
+
+bool AnswersAtOnce(char16_t letter) {
+  const DriveType type = CurrentPlatform().GetDriveType(Root(letter));
+  return type == DriveType::kFixed || type == DriveType::kCdRom || type == DriveType::kRamDisk;
+}
+
+Text EntryOf(char16_t letter, bool chosen) {
   const Text drive = {ToLower(letter), u':'};
+  if (!chosen && !AnswersAtOnce(letter)) return drive;
+  const Text label = CurrentPlatform().GetVolumeLabel(Root(letter));
   return label.empty() ? drive : drive + u" [" + label + u"]";
 }
 
 }  // namespace
 
-void DriveListBox::Reread() {
-  drives_.clear();
-  list_index_ = -1;
+void DriveListBox::ReadDrives() {
+  std::vector<Text> drives;
   const std::uint32_t mask = CurrentPlatform().GetLogicalDrives();
-  for (char16_t bit = 0; bit < 26; ++bit) {
-    if ((mask >> bit & 1u) != 0) drives_.push_back(EntryOf(static_cast<char16_t>(u'A' + bit)));
+  for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
+    if ((mask >> (letter - u'A') & 1u) == 0) continue;
+    drives.push_back(EntryOf(letter, letter == chosen_));
   }
+  // A list that is dropped down is not drawn anew for nothing.
+  if (drives == drives_) return;
+  drives_ = std::move(drives);
+  list_index_ = -1;
   Notify(Property::kList);
-  const Text current = CurrentPlatform().GetCurrentDirectory();
-  for (int i = 0; i < ListCount() && !current.empty(); ++i) {
-    if (ToUpper(List(i)[0]) == ToUpper(current[0])) list_index_ = i;
+}
+
+int DriveListBox::IndexOf(char16_t letter) const {
+  for (int i = 0; i < ListCount(); ++i) {
+    if (ToUpper(List(i)[0]) == ToUpper(letter)) return i;
   }
+  return -1;
+}
+
+void DriveListBox::Reread() {
+  chosen_ = 0;
+  ReadDrives();
+  const Text current = CurrentPlatform().GetCurrentDirectory();
+  list_index_ = current.empty() ? -1 : IndexOf(current[0]);
+  Notify(Property::kSelection);
+}
+
+void DriveListBox::Update() {
+  const char16_t selected = Drive().empty() ? u'\0' : Drive()[0];
+  ReadDrives();
+  const int index = selected == 0 ? -1 : IndexOf(selected);
+  if (index == list_index_) return;
+  list_index_ = index;
   Notify(Property::kSelection);
 }
 
@@ -38,15 +70,21 @@ void DriveListBox::SetListIndex(int index) {
   }
   if (index == list_index_) return;
   list_index_ = index;
+  chosen_ = ToUpper(List(index)[0]);
   Notify(Property::kSelection);
   Raise(on_change);
 }
 
+void DriveListBox::Choose(int index) {
+  if (index != list_index_) return SetListIndex(index);
+  chosen_ = ToUpper(List(index)[0]);
+  Raise(on_again);
+}
+
 void DriveListBox::SetDrive(TextView drive) {
-  for (int i = 0; i < ListCount() && !drive.empty(); ++i) {
-    if (ToUpper(List(i)[0]) == ToUpper(drive[0])) return SetListIndex(i);
-  }
-  throw RuntimeError(ErrorNumber::kDeviceUnavailable, u"DriveListBox");
+  const int index = drive.empty() ? -1 : IndexOf(drive[0]);
+  if (index < 0) throw RuntimeError(ErrorNumber::kDeviceUnavailable, u"DriveListBox");
+  SetListIndex(index);
 }
 
 }  // namespace trovex

@@ -70,6 +70,10 @@ class Form : public Control {
 
   View* GetView() const { return view_; }
 
+  // What stands on the drives may be another than before: a device came or went, or the user comes
+  // back to the form, who may have changed a disc meanwhile.
+  Event on_drives_changed;
+
   Event on_load;
   Event on_activate;
   Event on_resize;

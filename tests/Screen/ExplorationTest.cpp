@@ -156,11 +156,41 @@ TEST_F(ExplorationTest, TheTitlesAreRewrittenAndEveryTableStandsOnItsFirstRow) {
   for (int i = 0; i < kTableCount; ++i) EXPECT_EQ(form.GridLogiciel(i).Row(), 1) << i;
 }
 
-TEST_F(ExplorationTest, AStartThatVanishedLeavesTheProgram) {
+TEST_F(ExplorationTest, ADirectoryThatHasGoneIsNotScannedAndTheTablesStay) {
+  Tree(0, 2, 0);
+  disc.Directory("PARTI");
+  Scan();
+  form.ListeRepertoire.SetListIndex(1);
+  ASSERT_EQ(form.ListeRepertoire.List(1), u"D:\\PARTI");
+  machine.gone = {u"D:\\PARTI"};
+  disc.Remove("PARTI");
+  Press(form.Explorer);
+  EXPECT_EQ(Help(), u"Répertoire introuvable");
+  EXPECT_EQ(form.GridLogiciel(1).Rows(), 3);
+  EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
+  EXPECT_EQ(form.ListeRepertoire.List(1), u"D:\\VIDE") << "the list was read afresh";
+}
+
+TEST_F(ExplorationTest, WhatWasChangedOnTheDiscSinceIsScanned) {
+  disc.Directory("JEUX");
+  form.ListeRepertoire.SetPath(u"D:\\");
+  form.ListeRepertoire.SetListIndex(0);
+  machine.labels[u"D"] = u"CAVE";
+  Tree(0, 2, 0);
+  Dos("JEUX/A.EXE");
+  Press(form.Explorer);
+  EXPECT_EQ(form.GridLogiciel(1).Cell(1, 1), u" D:\\JEUX");
+  EXPECT_EQ(form.ListeDrive.Drive(), u"d: [CAVE]");
+  EXPECT_EQ(form.ListeRepertoire.ListCount(), 3);
+}
+
+TEST_F(ExplorationTest, AStartThatVanishesUnderTheScanLeavesTheProgram) {
   Tree(0, 1, 0);
   disc.Directory("PARTI");
   form.ListeRepertoire.SetPath(u"D:\\PARTI");
-  machine.gone = {u"D:\\PARTI"};
+  view.on_repaint = [&](Control& control) {
+    if (&control == &form) machine.gone = {u"D:\\PARTI"};
+  };
   try {
     form.Explorer.Press();
     FAIL() << "no run-time error";

@@ -248,5 +248,67 @@ TEST_F(DriveTest, ADriveThatWasRemovedMeanwhileCannotComeBackEither) {
   EXPECT_EQ(form.ListeRepertoire.Path(), u"C:\\");
 }
 
+// What makes the window look at the drives afresh: a device that came or went, its becoming active,
+// the drive list that drops down, and the same drive chosen again.
+class ChangedDiscTest : public DriveTest {
+ protected:
+  void ChangeTheDisc() {
+    machine.labels[u"D"] = u"CAVE";
+    disc.Remove("JEUX");
+    disc.Directory("UTIL");
+  }
+  void ExpectTheNewDisc() {
+    EXPECT_EQ(form.ListeDrive.Drive(), u"d: [CAVE]");
+    EXPECT_EQ(form.ListeRepertoire.Path(), u"D:\\");
+    EXPECT_EQ(form.ListeRepertoire.List(0), u"D:\\UTIL");
+    EXPECT_EQ(BoxCount(), 0u);
+  }
+  ChangedDiscTest() {
+    disc.Directory("JEUX/ARCADE");
+    form.ListeRepertoire.SetPath(u"D:\\JEUX\\ARCADE");
+  }
+};
+
+TEST_F(ChangedDiscTest, IsReadAfreshWhenTheDrivesMayHaveChanged) {
+  ChangeTheDisc();
+  Raise(form.on_drives_changed);
+  ExpectTheNewDisc();
+}
+
+TEST_F(ChangedDiscTest, IsReadAfreshWhenTheDriveListDropsDown) {
+  ChangeTheDisc();
+  Raise(form.ListeDrive.on_drop_down);
+  ExpectTheNewDisc();
+}
+
+TEST_F(ChangedDiscTest, IsReadAfreshWhenTheSameDriveIsChosenAgain) {
+  ChangeTheDisc();
+  form.ListeDrive.Choose(form.ListeDrive.ListIndex());
+  ExpectTheNewDisc();
+}
+
+TEST_F(ChangedDiscTest, ADriveWithoutADiscShowsNoBox) {
+  machine.gone = {u"D:"};
+  machine.labels.clear();
+  Raise(form.on_drives_changed);
+  form.ListeDrive.Choose(form.ListeDrive.ListIndex());
+  EXPECT_EQ(form.ListeDrive.Drive(), u"d:");
+  EXPECT_EQ(form.ListeRepertoire.Path(), u"D:\\");
+  EXPECT_EQ(form.ListeRepertoire.ListCount(), 0);
+  EXPECT_EQ(BoxCount(), 0u);
+}
+
+TEST_F(ChangedDiscTest, AFloppyThatIsChosenTellsItsLabel) {
+  machine.drives.insert(u"A");
+  machine.ready.insert(u"A");
+  machine.types[u"A"] = DriveType::kRemovable;
+  machine.labels[u"A"] = u"DISQUETTE";
+  Raise(form.on_drives_changed);
+  EXPECT_EQ(form.ListeDrive.List(0), u"a:");
+  form.ListeDrive.Choose(0);
+  EXPECT_EQ(form.ListeDrive.Drive(), u"a: [DISQUETTE]");
+  EXPECT_EQ(form.ListeRepertoire.Path(), u"A:\\");
+}
+
 }  // namespace
 }  // namespace trovex::test

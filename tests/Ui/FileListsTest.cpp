@@ -245,13 +245,121 @@ TEST_F(DirListBoxTest, AMissingDirectoryOrDriveRaisesAndKeepsTheFormerPath) {
   EXPECT_EQ(list_.Path(), u"D:\\JEUX");
 }
 
-// Drives that a test spells out.
+TEST_F(DirListBoxTest, UpdatingReadsTheChildrenAgainAndKeepsTheHighlightedOne) {
+  disc_.Directory("JEUX");
+  disc_.Directory("UTIL");
+  list_.SetPath(u"D:\\");
+  list_.SetListIndex(1);
+  int changes = 0;
+  list_.on_change = [&] { ++changes; };
+  disc_.Directory("ARTS");
+  list_.Update();
+  EXPECT_THAT(Entries(list_), ElementsAre(u"D:\\ARTS", u"D:\\JEUX", u"D:\\UTIL"));
+  EXPECT_EQ(list_.ListIndex(), 2);
+  disc_.Remove("UTIL");
+  list_.Update();
+  EXPECT_EQ(list_.ListIndex(), -1) << "what was highlighted has gone";
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(DirListBoxTest, APathThatHasGoneFallsBackToItsNearestParent) {
+  disc_.Directory("JEUX/ARCADE/PAVES");
+  disc_.Directory("JEUX/CARTES");
+  list_.SetPath(u"D:\\JEUX\\ARCADE\\PAVES");
+  list_.SetListIndex(-3);
+  int changes = 0;
+  list_.on_change = [&] { ++changes; };
+  disc_.Remove("JEUX/ARCADE");
+  list_.Update();
+  EXPECT_EQ(list_.Path(), u"D:\\JEUX");
+  EXPECT_THAT(Entries(list_), ElementsAre(u"D:\\JEUX\\CARTES"));
+  EXPECT_EQ(list_.List(list_.ListIndex()), u"D:\\JEUX");
+  EXPECT_EQ(changes, 1);
+}
+
+// A drive whose disc can be taken out.
+class TrayPlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  bool GetFileStatus(const Text& name, FileStatus& status) override {
+    return !open && ForwardingPlatform::GetFileStatus(name, status);
+  }
+  FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
+    if (!open) return ForwardingPlatform::FindFirstFile(pattern, data);
+    data = {};
+    return FindHandle::kInvalid;
+  }
+  bool open = false;
+};
+
+TEST_F(DirListBoxTest, WithoutADiscTheRootIsLeftAndTheNextDiscIsShown) {
+  TrayPlatform tray(disc_.GetPlatform());
+  PlatformScope scope(tray);
+  disc_.Directory("JEUX/ARCADE");
+  list_.SetPath(u"D:\\JEUX\\ARCADE");
+  tray.open = true;
+  list_.Update();
+  EXPECT_EQ(list_.Path(), u"D:\\");
+  EXPECT_EQ(list_.ListCount(), 0);
+  list_.Update();
+  EXPECT_EQ(list_.Path(), u"D:\\");
+  disc_.Remove("JEUX");
+  disc_.Directory("UTIL");
+  tray.open = false;
+  list_.Update();
+  EXPECT_THAT(Entries(list_), ElementsAre(u"D:\\UTIL"));
+}
+
+TEST_F(DirListBoxTest, WithoutAPathThereIsNothingToUpdate) {
+  list_.Update();
+  EXPECT_EQ(list_.Path(), u"");
+}
+
+// A share of the network, all directories.
+class SharePlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  bool GetFileStatus(const Text& name, FileStatus& status) override {
+    status = {kAttributeDirectory, 0, {}};
+    return name.starts_with(there);
+  }
+  FindHandle FindFirstFile(const Text&, FindData& data) override {
+    data = {};
+    return FindHandle::kInvalid;
+  }
+  Text there = u"\\\\serveur\\disques";
+};
+
+TEST_F(DirListBoxTest, AShareHasNoParent) {
+  SharePlatform share(disc_.GetPlatform());
+  PlatformScope scope(share);
+  list_.SetPath(u"\\\\serveur\\disques\\jeux");
+  EXPECT_EQ(list_.Depth(), 1);
+  EXPECT_EQ(list_.List(-2), u"\\\\serveur\\disques");
+  share.there = u"nulle part";
+  list_.Update();
+  EXPECT_EQ(list_.Path(), u"\\\\serveur\\disques");
+}
+
+// Drives that a test spells out; a floppy and a drive of the network among them.
 class DrivesPlatform : public ForwardingPlatform {
  public:
   using ForwardingPlatform::ForwardingPlatform;
-  std::uint32_t GetLogicalDrives() override { return 1u << 0 | 1u << 2 | 1u << 25; }
-  Text GetVolumeLabel(const Text& root) override { return root == u"C:\\" ? u"SYSTEME" : u""; }
-  Text GetCurrentDirectory() override { return u"c:\\JEUX"; }
+  std::uint32_t GetLogicalDrives() override { return mask; }
+  DriveType GetDriveType(const Text& root) override {
+    if (root == u"A:\\") return DriveType::kRemovable;
+    return root == u"Z:\\" ? DriveType::kRemote : DriveType::kFixed;
+  }
+  Text GetVolumeLabel(const Text& root) override {
+    asked += root[0];
+    return root == u"C:\\" ? label : root == u"A:\\" ? u"DISQUETTE" : u"";
+  }
+  Text GetCurrentDirectory() override { return current; }
+
+  std::uint32_t mask = 1u << 0 | 1u << 2 | 1u << 25;
+  Text label = u"SYSTEME";
+  Text current = u"c:\\JEUX";
+  Text asked;
 };
 
 class DriveListBoxTest : public testing::Test {
@@ -292,6 +400,57 @@ TEST_F(DriveListBoxTest, ADriveThatIsNotThereIsAnError) {
   EXPECT_EQ(ErrorOf([&] { list_.SetListIndex(3); }), ErrorNumber::kInvalidProperty);
   EXPECT_EQ(ErrorOf([&] { list_.SetListIndex(-1); }), ErrorNumber::kInvalidProperty);
   EXPECT_EQ(list_.Drive(), u"c: [SYSTEME]");
+}
+
+TEST_F(DriveListBoxTest, AtTheStartOnlyDrivesThatAnswerAtOnceAreAskedForTheirLabels) {
+  EXPECT_EQ(platform_.asked, u"C");
+  platform_.asked.clear();
+  platform_.current = u"A:\\";
+  list_.Reread();
+  EXPECT_EQ(platform_.asked, u"C") << "the program's own drive was not chosen";
+  list_.Update();
+  EXPECT_EQ(platform_.asked, u"CC");
+}
+
+TEST_F(DriveListBoxTest, AFloppyIsAskedWhileItIsTheOneThatWasChosen) {
+  list_.SetListIndex(0);
+  list_.Update();
+  EXPECT_EQ(list_.Drive(), u"a: [DISQUETTE]");
+  EXPECT_EQ(changes_, 1);
+  list_.SetListIndex(1);
+  platform_.asked.clear();
+  list_.Update();
+  EXPECT_EQ(platform_.asked, u"C");
+  EXPECT_EQ(list_.List(0), u"a:");
+}
+
+TEST_F(DriveListBoxTest, UpdatingShowsNewLabelsAndDrivesAndKeepsTheSelectedOne) {
+  platform_.label = u"AUTRE";
+  platform_.mask |= 1u << 1;
+  list_.Update();
+  EXPECT_THAT(Entries(list_), ElementsAre(u"a:", u"b:", u"c: [AUTRE]", u"z:"));
+  EXPECT_EQ(list_.Drive(), u"c: [AUTRE]");
+  EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(DriveListBoxTest, ADriveThatHasGoneLeavesNoneSelected) {
+  platform_.mask = 1u << 25;
+  list_.Update();
+  EXPECT_EQ(list_.ListIndex(), -1);
+  EXPECT_EQ(list_.Drive(), u"");
+  list_.Update();
+  EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(DriveListBoxTest, TheDriveThatIsSelectedCanBeChosenAgain) {
+  int again = 0;
+  list_.on_again = [&] { ++again; };
+  list_.Choose(1);
+  EXPECT_EQ(again, 1);
+  EXPECT_EQ(changes_, 0);
+  list_.Choose(0);
+  EXPECT_EQ(again, 1);
+  EXPECT_EQ(changes_, 1);
 }
 
 }  // namespace

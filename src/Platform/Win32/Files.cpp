@@ -5,6 +5,7 @@
 
 #include "Platform/Win32/Errors.h"
 #include "Platform/Win32/Names.h"
+#include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
@@ -69,6 +70,7 @@ OwnedFile OpenDiskFile(const Text& verbatim, DWORD access, DWORD share, DWORD di
 }
 
 OwnedFile OpenSource(const Text& name) {
+  const Unredirected unredirected;
   return OpenDiskFile(Openable(name), GENERIC_READ, kShareAll, OPEN_EXISTING);
 }
 
@@ -189,6 +191,7 @@ void Win32Platform::FindClose(FindHandle handle) {
 // --- Files ----------------------------------------------------------------------------------
 
 bool Win32Platform::GetFileStatus(const Text& name, FileStatus& status) {
+  const Unredirected unredirected;
   const Text verbatim = VerbatimName(name);
   WIN32_FILE_ATTRIBUTE_DATA data;
   if (verbatim.empty() || !Query(verbatim, data)) return false;

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "Platform/Win32/Names.h"
+#include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
@@ -13,6 +14,7 @@ constexpr std::size_t kSmallestRecord = 6;
 // The record alone: behind it the system leaves room for its own translations, and its first field
 // is its length.
 std::string RecordOf(const Text& name) {
+  const Unredirected unredirected;
   const Text verbatim = VerbatimName(name);
   if (verbatim.empty()) return {};
   // The loader takes a plain name where it can be had.
@@ -45,6 +47,7 @@ bool Win32Platform::GetFileVersionInfo(const Text& name, std::uint32_t length, s
 std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const Text& key,
                                                      const Text& fallback, Text& buffer,
                                                      std::uint32_t size, const Text& file) {
+  const Unredirected unredirected;
   buffer.assign(size, u'\0');
   const DWORD length = GetPrivateProfileStringW(Wide(section), Wide(key), Wide(fallback),
                                                 Wide(buffer), size, Wide(file));

@@ -2,6 +2,7 @@
 
 #include "Platform/Pattern.h"
 #include "Platform/Win32/Names.h"
+#include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Windows.h"
 
 namespace trovex {
@@ -29,9 +30,19 @@ Search::Search(const Text& pattern) {
 }
 
 bool Search::Next(FindData& data) {
+  if (Advance(data)) return true;
+  // Nothing is held any more; why the search ended stays to be asked.
+  const DWORD reason = GetLastError();
+  handle_.reset();
+  SetLastError(reason);
+  return false;
+}
+
+bool Search::Advance(FindData& data) {
   WIN32_FIND_DATAW entry;
   for (;;) {
     if (!question_.empty()) {
+      const Unredirected unredirected;
       handle_ =
           OwnFind(FindFirstFileExW(Wide(question_), FindExInfoBasic, &entry, FindExSearchNameMatch,
                                    nullptr, FIND_FIRST_EX_LARGE_FETCH));

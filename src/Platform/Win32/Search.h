@@ -12,10 +12,11 @@ class Search {
   explicit Search(const Text& pattern);
 
   // The next entry; false, and `data` untouched, at the end or where there is nothing to search.
-  // GetLastError then says why.
+  // GetLastError then says why, and nothing is held any more.
   bool Next(FindData& data);
 
  private:
+  bool Advance(FindData& data);
   bool Accepts(const void* entry) const;
 
   Text level_;     // the last level of the pattern

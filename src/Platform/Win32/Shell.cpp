@@ -1,7 +1,9 @@
 // Shell, icons and registry: the real calls.
 #include <algorithm>
 
+#include "Platform/Win32/CommandLine.h"
 #include "Platform/Win32/Names.h"
+#include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
@@ -28,6 +30,33 @@ int ResultOf(HINSTANCE instance) {
   return static_cast<int>(std::min<std::intptr_t>(result, 33));
 }
 
+bool IsFile(const Text& name) {
+  const Text verbatim = VerbatimName(name);
+  if (verbatim.empty()) return false;
+  const DWORD attributes = GetFileAttributesW(Wide(verbatim));
+  return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+// What the shell starts meanwhile meets errors as any program does, not as this one.
+class ErrorModeOfOthers {
+ public:
+  ErrorModeOfOthers() : own_(SetErrorMode(0)) {}
+  ~ErrorModeOfOthers() { SetErrorMode(own_); }
+  ErrorModeOfOthers(const ErrorModeOfOthers&) = delete;
+  ErrorModeOfOthers& operator=(const ErrorModeOfOthers&) = delete;
+
+ private:
+  UINT own_;
+};
+
+// A program that asks for more rights starts only through the shell, which takes its arguments by
+// themselves.
+bool StartWithMoreRights(const CommandLine& line, int mode) {
+  const ErrorModeOfOthers error_mode;
+  return ResultOf(ShellExecuteW(nullptr, nullptr, Wide(line.program), Wide(line.arguments), nullptr,
+                                mode)) > 32;
+}
+
 bool IsText(DWORD type) {
   return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
 }
@@ -36,6 +65,7 @@ bool IsText(DWORD type) {
 
 int Win32Platform::ShellExecute(const Text& verb, const Text& file, const Text& parameters,
                                 const Text& directory, int show) {
+  const ErrorModeOfOthers mode;
   return ResultOf(ShellExecuteW(GetDesktopWindow(), Wide(verb), Wide(file), Wide(parameters),
                                 Wide(directory), show));
 }
@@ -52,22 +82,21 @@ int Win32Platform::FindExecutable(const Text& file, const Text& directory, Text&
   return result;
 }
 
+// The application's name stays null: a program of 16 bits starts by its line alone.
 void Win32Platform::StartProgram(const Text& command_line, int mode) {
+  const Unredirected unredirected;
   STARTUPINFOW start = {};
   start.cb = sizeof start;
   start.dwFlags = STARTF_USESHOWWINDOW;
   start.wShowWindow = static_cast<WORD>(mode);
   PROCESS_INFORMATION process = {};
-  Text line = command_line;
-  if (!CreateProcessW(nullptr, Wide(line), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                      &process)) {
+  const CommandLine split = SplitCommandLine(command_line, IsFile);
+  Text line = split.Whole();
+  if (!CreateProcessW(nullptr, Wide(line), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE,
+                      nullptr, nullptr, &start, &process)) {
     const DWORD code = ::GetLastError();
     const bool missing = code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND;
-    // A program that asks for more rights starts only through the shell.
-    if (code == kElevationRequired && ResultOf(ShellExecuteW(nullptr, nullptr, Wide(command_line),
-                                                             nullptr, nullptr, mode)) > 32) {
-      return;
-    }
+    if (code == kElevationRequired && StartWithMoreRights(split, mode)) return;
     throw RuntimeError(missing ? ErrorNumber::kFileNotFound : ErrorNumber::kInvalidCall);
   }
   ::CloseHandle(process.hThread);
@@ -75,6 +104,7 @@ void Win32Platform::StartProgram(const Text& command_line, int mode) {
 }
 
 int Win32Platform::ExtractIconEx(const Text& file, int index) {
+  const Unredirected unredirected;
   HICON large = nullptr;
   ExtractIconExW(Wide(file), index, &large, nullptr, 1);
   if (large == nullptr) return 0;

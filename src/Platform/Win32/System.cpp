@@ -3,6 +3,8 @@
 #include <memory>
 
 #include "Platform/Win32/Names.h"
+#include "Platform/Win32/Redirection.h"
+#include "Platform/Win32/SystemCalls.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
@@ -32,6 +34,7 @@ char16_t DriveLetter(const Text& path) {
 }
 
 bool IsDirectory(const Text& name) {
+  const Unredirected unredirected;
   const Text verbatim = VerbatimName(name);
   if (verbatim.empty()) return false;
   const DWORD attributes = GetFileAttributesW(Wide(verbatim));
@@ -55,11 +58,15 @@ struct LocalMemory {
 
 }  // namespace
 
-// No box of the system may ask for a disc while a drive is only looked at.
+// No box of the system may ask for a disc while a drive is only looked at. No library is looked for
+// in the current directory, which may be that of a disc: with an empty name the system leaves it
+// out.
 Win32Platform::Win32Platform()
     : random_(
           static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())) {
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+  const auto set_directory = SystemCall<BOOL WINAPI(LPCWSTR)>(L"kernel32", "SetDllDirectoryW");
+  if (set_directory != nullptr) set_directory(L"");
 }
 
 // --- Drives and directories -----------------------------------------------------------------
@@ -108,7 +115,8 @@ void Win32Platform::ChangeDirectory(const Text& directory) {
   const Text full = directory.empty() ? Text() : WithoutFinalBackslash(FullName(directory));
   if (!IsDirectory(full)) throw RuntimeError(ErrorNumber::kPathNotFound);
   const char16_t letter = DriveLetter(full);
-  const bool current = letter == DriveLetter(CurrentDirectory());
+  // A network path has no drive: it becomes the current directory, whichever drive was current.
+  const bool current = letter == 0 || letter == DriveLetter(CurrentDirectory());
   if (current && !SetCurrentDirectoryW(Wide(full))) {
     throw RuntimeError(ErrorNumber::kPathNotFound);
   }

@@ -179,6 +179,7 @@ class DriveListWindow : public NativeControl {
 
  private:
   DriveListBox& list_;
+  bool taken_ = false;  // an entry of the list that is dropped down
 };
 
 // A picture at its own size in the corner.

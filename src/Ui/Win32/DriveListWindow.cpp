@@ -64,10 +64,29 @@ void DriveListWindow::MirrorProperty(Property property) {
   Send(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
 }
 
+// The system reports a change before or after the list rolls up. That the user took the entry which
+// was selected already is told by the rolling up alone.
 void DriveListWindow::OnCommand(WORD code) {
-  if (code != CBN_SELCHANGE || Mirroring()) return;
+  if (Mirroring()) return;
   const auto selected = static_cast<int>(Send(CB_GETCURSEL));
-  if (selected != CB_ERR) Owner().Run([&] { list_.SetListIndex(selected); });
+  switch (code) {
+    case CBN_DROPDOWN:
+      taken_ = false;
+      return Owner().Run(list_.on_drop_down);
+    case CBN_SELENDOK:
+      taken_ = true;
+      return;
+    case CBN_SELCHANGE:
+      if (selected == CB_ERR || selected == list_.ListIndex()) return;
+      taken_ = false;
+      return Owner().Run([&] { list_.Choose(selected); });
+    case CBN_CLOSEUP:
+      if (!taken_ || selected == CB_ERR || selected != list_.ListIndex()) return;
+      taken_ = false;
+      return Owner().Run([&] { list_.Choose(selected); });
+    default:
+      return;
+  }
 }
 
 void DriveListWindow::OnMeasure(MEASUREITEMSTRUCT& item) {

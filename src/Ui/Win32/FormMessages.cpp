@@ -7,10 +7,20 @@
 #include "Ui/Win32/SystemMenu.h"
 #include "Ui/Win32/Win32View.h"
 
+// Behind Windows.h, whose types it needs.
+#include <dbt.h>
+
 namespace trovex::win32 {
 namespace {
 
 constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, from Windows 8.1 on
+
+// Of the many reasons for which the system tells of devices those after which a drive may hold
+// something else.
+bool ChangesDrives(WPARAM reason) {
+  return reason == DBT_DEVNODES_CHANGED || reason == DBT_DEVICEARRIVAL ||
+         reason == DBT_DEVICEREMOVECOMPLETE;
+}
 
 }  // namespace
 
@@ -36,6 +46,16 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
       flush_requested_ = false;
       Flush();
       return 0;
+    case kDrivesMessage:
+      drives_requested_ = false;
+      Run(form_.on_drives_changed);
+      return 0;
+    case WM_DEVICECHANGE:
+      if (ChangesDrives(w)) RequestDrives();
+      return TRUE;
+    case WM_ACTIVATE:
+      if (LOWORD(w) != WA_INACTIVE) RequestDrives();
+      break;
     case WM_CLOSE:
       Run([this] { form_.Close(); });
       return 0;
@@ -70,6 +90,13 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
       if (Route(message, w, l, result)) return result;
   }
   return DefWindowProcW(handle_, message, w, l);
+}
+
+// Later, and once for all: a device that comes is told of several times, and reading it may bring
+// the next message.
+void FormWindow::RequestDrives() {
+  if (drives_requested_ || !form_.on_drives_changed) return;
+  drives_requested_ = PostMessageW(handle_, kDrivesMessage, 0, 0) != FALSE;
 }
 
 bool FormWindow::Route(UINT message, WPARAM w, LPARAM l, LRESULT& result) {

@@ -47,6 +47,8 @@ class FormWindow {
  private:
   // Posted to itself: the program has come to rest, what was put off is shown.
   static constexpr UINT kFlushMessage = WM_APP + 1;
+  // Posted to itself: drives are to be read again.
+  static constexpr UINT kDrivesMessage = WM_APP + 2;
 
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
   LRESULT OnMessage(UINT message, WPARAM w, LPARAM l);
@@ -61,6 +63,7 @@ class FormWindow {
   void OnDpiChanged(int dpi, const RECT& proposed);
   void OnPaint();
   void MoveFocus(bool backwards);
+  void RequestDrives();
   RECT OuterRectangle() const;
 
   Form& form_;
@@ -73,6 +76,7 @@ class FormWindow {
   HDC painting_ = nullptr;
   bool placing_ = false;
   bool flush_requested_ = false;
+  bool drives_requested_ = false;
 };
 
 }  // namespace trovex::win32

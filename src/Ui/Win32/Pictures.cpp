@@ -1,6 +1,7 @@
 #include "Ui/Win32/Pictures.h"
 
 #include "Platform/Win32/Names.h"
+#include "Platform/Win32/Redirection.h"
 
 namespace trovex::win32 {
 namespace {
@@ -11,11 +12,13 @@ HICON FromResource(const Text& name, int pixels) {
 }
 
 HICON FromFile(const Text& name, int pixels) {
+  const Unredirected unredirected;
   const HANDLE icon = LoadImageW(nullptr, Wide(name), IMAGE_ICON, pixels, pixels, LR_LOADFROMFILE);
   return static_cast<HICON>(icon);
 }
 
 HICON FromInside(const Text& name, int index) {
+  const Unredirected unredirected;
   HICON large = nullptr;
   ExtractIconExW(Wide(name), index, &large, nullptr, 1);
   return large;

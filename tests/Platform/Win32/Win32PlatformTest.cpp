@@ -54,6 +54,22 @@ TEST_F(Win32PlatformTest, ADirectoryThatHasGoneGivesWayToItsRoot) {
   EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\");
 }
 
+// Wine keeps what stands for shares beside its drives; elsewhere there is none to be had.
+TEST_F(Win32PlatformTest, ANetworkPathBecomesTheCurrentDirectory) {
+  if (CurrentHostSystem() != HostSystem::kWine) GTEST_SKIP() << "there is no share";
+  Text prefix = u"Z:" + platform_.GetEnvironmentVariable(u"WINEPREFIX");
+  std::replace(prefix.begin(), prefix.end(), u'/', u'\\');
+  Text share = prefix + u"\\dosdevices";
+  for (const TextView level : {u"\\unc", u"\\trovex", u"\\jeux"}) {
+    share += level;
+    CreateDirectoryW(Wide(share), nullptr);
+  }
+  platform_.ChangeDirectory(u"\\\\trovex\\jeux");
+  EXPECT_EQ(platform_.GetCurrentDirectory(), u"\\\\trovex\\jeux");
+  platform_.ChangeDrive(u"D:");
+  EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\");
+}
+
 // --- Surroundings -------------------------------------------------------------------------------
 
 TEST_F(Win32PlatformTest, TheEnvironmentIsTheProcesss) {
@@ -142,6 +158,24 @@ TEST_F(Win32PlatformTest, ALinkToADirectoryIsNoEntry) {
   EXPECT_TRUE(platform_.GetFileStatus(link + u"\\system32", status));
   EXPECT_THAT(FindAll(link), IsEmpty());
   EXPECT_THAT(FindAll(link + u"*"), IsEmpty());
+}
+
+// An open search would keep its directory from being removed, and its disc from being taken out.
+TEST_F(Win32PlatformTest, ASearchAtItsEndHoldsNothing) {
+  disc_.File("JEUX/A.EXE");
+  DWORD before = 0, after = 0;
+  ASSERT_TRUE(GetProcessHandleCount(GetCurrentProcess(), &before));
+  std::vector<FindHandle> ended;
+  for (int i = 0; i < 20; ++i) {
+    FindData data;
+    ended.push_back(platform_.FindFirstFile(u"D:\\JEUX\\*.*", data));
+    while (platform_.FindNextFile(ended.back(), data)) {
+    }
+  }
+  ASSERT_TRUE(GetProcessHandleCount(GetCurrentProcess(), &after));
+  EXPECT_LT(after, before + 20);
+  EXPECT_TRUE(RemoveDirectoryW(L"D:\\JEUX") || ::GetLastError() == ERROR_DIR_NOT_EMPTY);
+  for (const FindHandle handle : ended) platform_.FindClose(handle);
 }
 
 // --- Files in use --------------------------------------------------------------------------------

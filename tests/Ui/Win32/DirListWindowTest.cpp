@@ -71,10 +71,28 @@ class DriveListWindowTest : public ViewTest {
     list.Reread();
     Rest();
     list.on_change = Count(changes);
+    list.on_again = Count(agains);
+  }
+
+  // A click on an entry of the list that was dropped down.
+  void Take(int item) {
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof parts;
+    Ask(list, CB_SHOWDROPDOWN, TRUE);
+    ASSERT_TRUE(GetComboBoxInfo(Handle(list), &parts));
+    RECT at = {};
+    SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(item),
+                 reinterpret_cast<LPARAM>(&at));
+    const LPARAM place = MAKELPARAM(at.left + 20, at.top + 3);
+    SendMessageW(parts.hwndList, WM_MOUSEMOVE, 0, place);
+    SendMessageW(parts.hwndList, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    SendMessageW(parts.hwndList, WM_LBUTTONUP, 0, place);
+    Rest();
   }
 
   DriveListBox& list = ShowOne<DriveListBox>(ControlKind::kDriveListBox, {150, 150, 3000, 315});
   int changes = 0;
+  int agains = 0;
 };
 
 TEST_F(DriveListWindowTest, ShowsTheDrivesWithTheirLabels) {
@@ -100,6 +118,31 @@ TEST_F(DriveListWindowTest, WhatTheProgramChoosesRaisesOneChange) {
   Rest();
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(Ask(list, CB_GETCURSEL), list.ListIndex());
+}
+
+TEST_F(DriveListWindowTest, ADropTellsBeforeTheListIsSeen) {
+  int drops = 0;
+  list.on_drop_down = Count(drops);
+  Ask(list, CB_SHOWDROPDOWN, TRUE);
+  Rest();
+  EXPECT_EQ(drops, 1);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(DriveListWindowTest, TheSelectedDriveTakenAgainIsTold) {
+  const int selected = list.ListIndex();
+  Take(selected);
+  EXPECT_EQ(list.ListIndex(), selected);
+  EXPECT_EQ(agains, 1);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(DriveListWindowTest, AnotherDriveTakenIsAChangeAlone) {
+  const int other = list.ListIndex() == 0 ? 1 : 0;
+  Take(other);
+  EXPECT_EQ(list.ListIndex(), other);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(agains, 0);
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include "ViewTest.h"
 
+// Behind Windows.h, whose types it needs.
+#include <dbt.h>
+
 namespace trovex::win32 {
 namespace {
 
@@ -173,6 +176,35 @@ TEST_F(FormWindowTest, AScreenReaderIsToldAControlsName) {
   ASSERT_EQ(found, S_OK);
   EXPECT_EQ(FromWide(name), u"Premier bouton");
   SysFreeString(name);
+}
+
+TEST_F(FormWindowTest, DevicesThatComeAndGoAreToldOnceWhenTheProgramIsAtRest) {
+  Show();
+  int drives = 0;
+  TheForm().on_drives_changed = Count(drives);
+  for (const WPARAM reason : {DBT_DEVICEARRIVAL, DBT_DEVNODES_CHANGED, DBT_DEVICEREMOVECOMPLETE}) {
+    SendMessageW(FormHandle(), WM_DEVICECHANGE, reason, 0);
+  }
+  EXPECT_EQ(drives, 0);
+  Rest();
+  EXPECT_EQ(drives, 1);
+  SendMessageW(FormHandle(), WM_DEVICECHANGE, DBT_QUERYCHANGECONFIG, 0);
+  Rest();
+  EXPECT_EQ(drives, 1) << "no drive can have changed by a question";
+}
+
+TEST_F(FormWindowTest, AFormThatBecomesActiveLooksAtTheDrives) {
+  Show();
+  const HWND other = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100,
+                                     100, nullptr, nullptr, nullptr, nullptr);
+  SetActiveWindow(other);
+  Rest();
+  int drives = 0;
+  TheForm().on_drives_changed = Count(drives);
+  SetActiveWindow(FormHandle());
+  Rest();
+  EXPECT_EQ(drives, 1);
+  DestroyWindow(other);
 }
 
 }  // namespace

@@ -1,0 +1,23 @@
+// Where the program ends in a command line and its arguments begin.
+#pragma once
+
+#include <functional>
+
+#include "Platform/Text.h"
+
+namespace trovex {
+
+struct CommandLine {
+  Text program;  // without quotes
+  Text arguments;
+
+  // The line with the program in quotes where its name holds blanks: the system would otherwise
+  // start whatever bears the beginning of that name.
+  Text Whole() const;
+};
+
+// The program is what stands in quotes; else the longest beginning of the line, up to a blank or
+// its end, that is the name of a file; else what stands before the first blank.
+CommandLine SplitCommandLine(const Text& line, const std::function<bool(const Text&)>& is_file);
+
+}  // namespace trovex

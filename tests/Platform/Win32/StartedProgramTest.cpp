@@ -1,0 +1,79 @@
+// What starts, and what it finds: the test program itself is started, as a child that reports.
+#include "Platform/Win32/Handles.h"
+#include "Platform/Win32/Names.h"
+#include "Platform/Win32/Windows.h"
+#include "Platform/contract/Contract.h"
+
+namespace trovex::test {
+namespace {
+
+constexpr wchar_t kEvent[] = L"TrovexStartedProgram";
+constexpr TextView kRest = u" --gtest_also_run_disabled_tests --gtest_filter=StartedChild.*";
+
+Text ModuleName() {
+  Text name(32768, u'\0');
+  name.resize(GetModuleFileNameW(nullptr, Wide(name), 32768));
+  return name;
+}
+
+// The child: its name and error mode go into a file beside it.
+TEST(StartedChild, DISABLED_Reports) {
+  const Text report = ModuleName() + u"\n" + Decimal(static_cast<int>(SetErrorMode(0)));
+  const OwnedFile file = OwnFile(CreateFileW(L"D:\\RAPPORT.TXT", GENERIC_WRITE, 0, nullptr,
+                                             CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  DWORD written = 0;
+  WriteFile(file.get(), report.data(), static_cast<DWORD>(report.size() * sizeof(char16_t)),
+            &written, nullptr);
+  const OwnedFile event = OwnFile(OpenEventW(EVENT_MODIFY_STATE, FALSE, kEvent));
+  SetEvent(event.get());
+}
+
+class StartedProgramTest : public Contract {
+ protected:
+  // What the child says that `command_line` starts.
+  Text Report(const Text& command_line) {
+    const OwnedFile event = OwnFile(CreateEventW(nullptr, TRUE, FALSE, kEvent));
+    platform_.StartProgram(command_line, SW_HIDE);
+    constexpr DWORD kLongest = 60000;  // milliseconds
+    if (WaitForSingleObject(event.get(), kLongest) != WAIT_OBJECT_0) return u"rien";
+    const std::string bytes = Contents(u"D:\\RAPPORT.TXT");
+    return Text(reinterpret_cast<const char16_t*>(bytes.data()), bytes.size() / sizeof(char16_t));
+  }
+  void CopyChild(const Text& name) { ASSERT_TRUE(CopyFileW(Wide(ModuleName()), Wide(name), TRUE)); }
+};
+
+TEST_F(StartedProgramTest, TheNamedProgramStartsAndNotOneThatBearsTheBeginningOfItsName) {
+  disc_.Directory("Mes jeux");
+  CopyChild(u"D:\\Mes.exe");
+  CopyChild(u"D:\\Mes jeux\\setup.exe");
+  SetEnvironmentVariableW(L"GTEST_ALSO_RUN_DISABLED_TESTS", L"1");
+  SetEnvironmentVariableW(L"GTEST_FILTER", L"StartedChild.*");
+  const Text report = Report(u"D:\\Mes jeux\\setup.exe");
+  SetEnvironmentVariableW(L"GTEST_ALSO_RUN_DISABLED_TESTS", nullptr);
+  SetEnvironmentVariableW(L"GTEST_FILTER", nullptr);
+  EXPECT_EQ(report.substr(0, report.find(u'\n')), u"D:\\Mes jeux\\setup.exe");
+}
+
+TEST_F(StartedProgramTest, AStartedProgramDoesNotInheritTheErrorMode) {
+  const Text report = Report(u"\"" + ModuleName() + u"\"" + Text(kRest));
+  EXPECT_EQ(report.substr(report.find(u'\n') + 1), u"0");
+  EXPECT_NE(SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX), 0u)
+      << "the program's own stays";
+}
+
+TEST_F(StartedProgramTest, WhatDoesNotExistRaises) {
+  EXPECT_EQ(ErrorOf([&] { platform_.StartProgram(u"D:\\RIEN.EXE", 1); }),
+            ErrorNumber::kFileNotFound);
+}
+
+TEST_F(StartedProgramTest, NoLibraryIsTakenFromTheCurrentDirectory) {
+  Text system;
+  platform_.GetSystemDirectory(system, 255);
+  ASSERT_TRUE(CopyFileW(Wide(system + u"\\version.dll"), L"D:\\trvxessai.dll", TRUE));
+  const HMODULE library = LoadLibraryW(L"trvxessai.dll");
+  EXPECT_EQ(library, nullptr);
+  if (library != nullptr) FreeLibrary(library);
+}
+
+}  // namespace
+}  // namespace trovex::test
