@@ -9,10 +9,15 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 if(TROVEX_SANITIZE)
   target_compile_options(trovex_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
-    # GCC 12 takes what the sanitizers insert for uses of uninitialized values.
-    -Wno-maybe-uninitialized)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # GCC 12 takes what the sanitizers insert for uses of uninitialized values.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(trovex_flags INTERFACE -Wno-maybe-uninitialized)
+  endif()
   target_link_options(trovex_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(TROVEX_FUZZ)
+  target_compile_options(trovex_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(WIN32)
   target_compile_definitions(trovex_flags INTERFACE

@@ -24,6 +24,7 @@ packages_wine=(wine64 xvfb "${packages_windows_of_wine[@]}")
 # Those in the i386 root of packaging/wine-root.
 packages_wine32=(wine wine32 "${packages_windows_of_wine[@]}")
 packages_checks=(python3 clang-format-14 poppler-utils)
+packages_fuzz=(clang libclang-rt-14-dev)
 packages_pictures=(xdotool imagemagick)
 
 # Where packaging/wine-root puts the 32-bit Wine, for all checkouts of the user.
