@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "Platform/Host.h"
-#include "Scanner/LIB_GENERALE.h"
+#include "Screen/LIB_GENERALE.h"
 #include "Screen/MainForm.h"
 #include "Ui/Headless/HeadlessView.h"
 #include "Ui/Preview.h"

@@ -1,4 +1,5 @@
-#include "Export/LIB_OBJECT_GRID.h"
+#include "Export/GridExport.h"
+
 #include "Lib/Dialogs.h"
 #include "Lib/FileNumbers.h"
 #include "Lib/LIB_BUSY.h"

@@ -1,9 +1,9 @@
 #include "Export/Lib_GridListe.h"
 
-#include "Export/LIB_OBJECT_GRID.h"
-#include "Export/PrtPreview.h"
+#include "Export/GridExport.h"
 #include "Lib/Graphics.h"
 #include "Lib/LIB_BUSY.h"
+#include "Paper/PrtPreview.h"
 #include "Resources/GridListeTable.h"
 
 namespace trovex {

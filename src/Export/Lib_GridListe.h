@@ -3,6 +3,7 @@
 // selection, "0" for none. The form only hides itself; the caller unloads it.
 #pragma once
 
+#include "Ui/Button.h"
 #include "Ui/Form.h"
 #include "Ui/Grid.h"
 #include "Ui/Label.h"

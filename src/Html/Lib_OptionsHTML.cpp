@@ -9,6 +9,8 @@
 #include "Lib/LIB_INI.h"
 #include "Resources/OptionsHtmlTable.h"
 #include "Resources/Strings.h"
+#include "Ui/Button.h"
+#include "Ui/Label.h"
 
 namespace trovex {
 namespace {

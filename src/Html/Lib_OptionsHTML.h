@@ -1,8 +1,11 @@
 // The dialog of the HTML options, and their only holder: whoever needs an option reads its control.
 #pragma once
 
+#include "Ui/Button.h"
 #include "Ui/CheckBox.h"
 #include "Ui/Form.h"
+#include "Ui/Label.h"
+#include "Ui/OptionButton.h"
 #include "Ui/TextBox.h"
 
 namespace trovex {

@@ -10,6 +10,7 @@
 #include "Lib/LIB_DIALOGUE.h"
 #include "Resources/RgbFormTable.h"
 #include "Resources/Strings.h"
+#include "Ui/Button.h"
 #include "Ui/Colour.h"
 
 namespace trovex {

@@ -1,7 +1,9 @@
 // The dialog that chooses a colour by its three channels.
 #pragma once
 
+#include "Ui/Button.h"
 #include "Ui/Form.h"
+#include "Ui/Label.h"
 #include "Ui/Picture.h"
 #include "Ui/ScrollBar.h"
 #include "Ui/TextBox.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Ui/Form.h"
-#include "Ui/Label.h"
+#include "Ui/Line.h"
 
 namespace trovex {
 

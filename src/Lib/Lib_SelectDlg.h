@@ -2,8 +2,10 @@
 // the label `reponse`, the index of the option clicked last in that of SelOptions(0).
 #pragma once
 
+#include "Ui/Button.h"
 #include "Ui/Form.h"
 #include "Ui/Label.h"
+#include "Ui/OptionButton.h"
 
 namespace trovex {
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "Export/LIB_OBJECT_GRID.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_INI.h"
+#include "Lib/LIB_OBJECT_GRID.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
 #include "Resources/Strings.h"

@@ -1,4 +1,4 @@
-#include "Screen/Events.h"
+#include "Screen/AccessibleNames.h"
 
 namespace trovex {
 

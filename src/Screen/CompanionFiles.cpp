@@ -1,7 +1,8 @@
+#include "Screen/CompanionFiles.h"
+
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
-#include "Screen/Events.h"
 #include "System/LIB_SYSTEME.h"
 
 namespace trovex {

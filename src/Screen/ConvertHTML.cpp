@@ -1,9 +1,10 @@
+#include "Screen/ConvertHTML.h"
+
 #include "Lib/Dialogs.h"
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
 #include "Screen/HtmlExport.h"
 
 namespace trovex {

@@ -1,5 +1,6 @@
+#include "Screen/ExecutableType.h"
+
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
 
 namespace trovex {
 namespace {

@@ -1,8 +1,10 @@
-#include "Export/LIB_OBJECT_GRID.h"
+#include "Screen/Exploration.h"
+
 #include "Lib/LIB_BUSY.h"
+#include "Lib/LIB_OBJECT_GRID.h"
 #include "Platform/ScanCache.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
+#include "Screen/RowInspector.h"
 #include "Ui/Directory.h"
 
 namespace trovex {

@@ -1,3 +1,5 @@
+#include "Screen/FileViewer.h"
+
 #include "Lib/Dialogs.h"
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
@@ -5,7 +7,6 @@
 #include "Lib/LIB_SHELL.h"
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
 
 namespace trovex {
 namespace {

@@ -1,6 +1,8 @@
+#include "Screen/HelpLine.h"
+
 #include "Lib/LIB_BUSY.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
+#include "Screen/Launching.h"
 
 namespace trovex {
 namespace {

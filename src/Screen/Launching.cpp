@@ -1,10 +1,11 @@
+#include "Screen/Launching.h"
+
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_SHELL.h"
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
 
 namespace trovex {
 

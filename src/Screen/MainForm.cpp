@@ -4,7 +4,16 @@
 #include "Lib/LIB_BUSY.h"
 #include "Resources/MainFormTable.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
+#include "Screen/AccessibleNames.h"
+#include "Screen/ConvertHTML.h"
+#include "Screen/Exploration.h"
+#include "Screen/FileViewer.h"
+#include "Screen/HelpLine.h"
+#include "Screen/Launching.h"
+#include "Screen/PrintCommands.h"
+#include "Screen/RowInspector.h"
+#include "Screen/TabSwitching.h"
+#include "Screen/WindowCommands.h"
 #include "Ui/Colour.h"
 
 namespace trovex {

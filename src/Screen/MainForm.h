@@ -4,10 +4,13 @@
 #include <array>
 
 #include "Scanner/TROVEX_MAIN.h"
-#include "Ui/FileListBox.h"
+#include "Ui/Button.h"
+#include "Ui/DirListBox.h"
+#include "Ui/DriveListBox.h"
 #include "Ui/Form.h"
 #include "Ui/Grid.h"
 #include "Ui/Label.h"
+#include "Ui/Line.h"
 #include "Ui/ListBox.h"
 #include "Ui/Picture.h"
 #include "Ui/StatusBar.h"

@@ -1,8 +1,9 @@
-#include "Export/LIB_OBJECT_GRID.h"
-#include "Export/PrtPreview.h"
+#include "Screen/PrintCommands.h"
+
+#include "Export/GridExport.h"
 #include "Lib/LIB_BUSY.h"
+#include "Paper/PrtPreview.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
 
 namespace trovex {
 namespace {

@@ -3,7 +3,7 @@
 #include "Lib/LIB_REGISTRY.h"
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
+#include "Screen/RowIcon.h"
 #include "System/LIB_SYSTEME.h"
 
 namespace trovex {

@@ -1,10 +1,14 @@
+#include "Screen/RowInspector.h"
+
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/Lib_Form.h"
 #include "Resources/Strings.h"
 #include "Scanner/zFileInfo.h"
-#include "Screen/Events.h"
+#include "Screen/CompanionFiles.h"
+#include "Screen/ExecutableType.h"
+#include "Screen/RowIcon.h"
 
 namespace trovex {
 namespace {

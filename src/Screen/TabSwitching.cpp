@@ -1,6 +1,8 @@
+#include "Screen/TabSwitching.h"
+
 #include "Lib/LIB_BUSY.h"
 #include "Resources/Strings.h"
-#include "Screen/Events.h"
+#include "Screen/RowInspector.h"
 
 namespace trovex {
 namespace {

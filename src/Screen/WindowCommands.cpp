@@ -1,14 +1,16 @@
+#include "Screen/WindowCommands.h"
+
 #include "Html/Lib_OptionsHTML.h"
 #include "Lib/Graphics.h"
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_STRING.h"
+#include "Platform/Platform.h"
 #include "Resources/MainFormTable.h"
 #include "Resources/Strings.h"
 #include "Resources/Version.h"
-#include "Scanner/LIB_GENERALE.h"
-#include "Screen/Events.h"
-#include "System/Lib_AboutDlg.h"
+#include "Screen/LIB_GENERALE.h"
+#include "Screen/Lib_AboutDlg.h"
 
 namespace trovex {
 namespace {

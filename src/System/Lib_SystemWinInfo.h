@@ -2,6 +2,7 @@
 // of running programs. Loading it is all it needs.
 #pragma once
 
+#include "Ui/Button.h"
 #include "Ui/Form.h"
 #include "Ui/Label.h"
 #include "Ui/ListBox.h"

@@ -1,7 +1,7 @@
 // A box that is on or off.
 #pragma once
 
-#include "Ui/Label.h"
+#include "Ui/Captioned.h"
 
 namespace trovex {
 

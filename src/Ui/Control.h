@@ -40,7 +40,7 @@ enum class ControlKind {
   kPanel,
   kFrame,
   kCommonDialog,
-  kPrintPreview,
+  kPreviewSurface,
 };
 
 // Left, top, width and height in twips, within the parent.

@@ -1,11 +1,17 @@
 #include "Ui/ControlFactory.h"
 
+#include "Ui/Button.h"
+#include "Ui/Captioned.h"
 #include "Ui/CheckBox.h"
 #include "Ui/CommonDialog.h"
+#include "Ui/DirListBox.h"
+#include "Ui/DriveListBox.h"
 #include "Ui/FileListBox.h"
 #include "Ui/Grid.h"
 #include "Ui/Label.h"
+#include "Ui/Line.h"
 #include "Ui/ListBox.h"
+#include "Ui/OptionButton.h"
 #include "Ui/Picture.h"
 #include "Ui/ScrollBar.h"
 #include "Ui/StatusBar.h"
@@ -59,7 +65,7 @@ std::unique_ptr<Control> Create(ControlKind kind) {
       return std::make_unique<Frame>();
     case ControlKind::kCommonDialog:
       return std::make_unique<CommonDialog>();
-    case ControlKind::kPrintPreview:
+    case ControlKind::kPreviewSurface:
       break;  // made by its module, which adopts it into a form
   }
   throw RuntimeError(ErrorNumber::kInvalidCall, u"CreateControl");

@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "Ui/DirListBox.h"
 #include "Ui/Directory.h"
-#include "Ui/FileListBox.h"
 #include "Ui/ListBox.h"
 
 namespace trovex {

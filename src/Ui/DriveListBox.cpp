@@ -1,4 +1,6 @@
-#include "Ui/FileListBox.h"
+#include "Ui/DriveListBox.h"
+
+#include "Platform/Platform.h"
 
 namespace trovex {
 namespace {

@@ -1,7 +1,9 @@
 // A text field of one or many lines.
 #pragma once
 
-#include "Ui/Label.h"
+#include "Ui/Alignment.h"
+#include "Ui/Control.h"
+#include "Ui/Font.h"
 
 namespace trovex {
 

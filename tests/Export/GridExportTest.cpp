@@ -1,8 +1,10 @@
 #include <fstream>
 #include <sstream>
 
-#include "Export/LIB_OBJECT_GRID.h"
+#include "Export/GridExport.h"
+
 #include "Lib/LIB_BUSY.h"
+#include "Lib/LIB_OBJECT_GRID.h"
 #include "Lib/Lib_Form.h"
 #include "Lib/Lib_SelectDlg.h"
 #include "Platform/ForwardingPlatform.h"

@@ -1,7 +1,7 @@
 #include "Export/Lib_GridListe.h"
-#include "Export/PreviewTest.h"
 #include "Lib/LIB_BUSY.h"
 #include "Lib/Lib_SelectDlg.h"
+#include "Paper/PreviewTest.h"
 
 namespace trovex::test {
 namespace {

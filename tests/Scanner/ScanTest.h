@@ -6,8 +6,8 @@
 #include <map>
 #include <vector>
 
-#include "Export/LIB_OBJECT_GRID.h"
 #include "Lib/LIB_BUSY.h"
+#include "Lib/LIB_OBJECT_GRID.h"
 #include "Platform/Encoding.h"
 #include "Platform/ForwardingPlatform.h"
 #include "Platform/ScanCache.h"

@@ -1,5 +1,5 @@
+#include "Screen/Lib_AboutDlg.h"
 #include "ScreenTest.h"
-#include "System/Lib_AboutDlg.h"
 
 namespace trovex::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "Screen/Events.h"
+#include "Screen/Launching.h"
 #include "ScreenTest.h"
 
 namespace trovex::test {

@@ -6,7 +6,7 @@
 
 #include "Lib/LIB_BUSY.h"
 #include "Platform/Encoding.h"
-#include "Scanner/LIB_GENERALE.h"
+#include "Screen/LIB_GENERALE.h"
 #include "Screen/MainForm.h"
 #include "support/MachineTest.h"
 

@@ -1,4 +1,4 @@
-#include "Screen/Events.h"
+#include "Screen/WindowCommands.h"
 #include "ScreenTest.h"
 #include "Ui/Colour.h"
 

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "Platform/ForwardingPlatform.h"
+#include "Ui/DirListBox.h"
+#include "Ui/DriveListBox.h"
 #include "Ui/FileListBox.h"
 #include "support/TestDisc.h"
 

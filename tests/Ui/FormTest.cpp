@@ -3,9 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Ui/Button.h"
 #include "Ui/FormsScope.h"
 #include "Ui/Headless/HeadlessView.h"
 #include "Ui/Label.h"
+#include "Ui/Line.h"
+#include "Ui/OptionButton.h"
 
 namespace trovex::test {
 namespace {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Ui/Button.h"
 #include "Ui/CommonDialog.h"
 #include "Ui/ControlFactory.h"
 #include "Ui/Headless/HeadlessView.h"

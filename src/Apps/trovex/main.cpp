@@ -3,7 +3,7 @@
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 #include "Resources/Version.h"
-#include "Scanner/LIB_GENERALE.h"
+#include "Screen/LIB_GENERALE.h"
 #include "Screen/MainForm.h"
 #include "Ui/FormsScope.h"
 #include "Ui/Win32/Win32View.h"

@@ -1,11 +1,14 @@
 // The windows of the control kinds, one source file a kind.
 #pragma once
 
+#include "Ui/Button.h"
 #include "Ui/CheckBox.h"
-#include "Ui/FileListBox.h"
+#include "Ui/DirListBox.h"
+#include "Ui/DriveListBox.h"
 #include "Ui/Grid.h"
 #include "Ui/Label.h"
 #include "Ui/ListBox.h"
+#include "Ui/OptionButton.h"
 #include "Ui/Picture.h"
 #include "Ui/ScrollBar.h"
 #include "Ui/StatusBar.h"

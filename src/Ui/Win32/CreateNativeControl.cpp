@@ -39,7 +39,7 @@ std::unique_ptr<NativeControl> CreateNativeControl(Control& model, FormWindow& f
     case ControlKind::kLine:
     case ControlKind::kShape:
     case ControlKind::kCommonDialog:
-    case ControlKind::kPrintPreview:
+    case ControlKind::kPreviewSurface:
       break;
   }
   return nullptr;

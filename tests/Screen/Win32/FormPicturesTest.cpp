@@ -8,7 +8,7 @@
 #include "Html/Lib_RGBForm.h"
 #include "Lib/Lib_SelectDlg.h"
 #include "Resources/Forms.h"
-#include "System/Lib_AboutDlg.h"
+#include "Screen/Lib_AboutDlg.h"
 #include "System/Lib_SystemWinInfo.h"
 #include "WindowTest.h"
 #include "support/Win32/WindowPicture.h"

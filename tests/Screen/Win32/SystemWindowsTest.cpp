@@ -1,7 +1,7 @@
 // The keys of the windows that tell of the machine and of the program, whichever control has the
 // focus.
 #include "Lib/Dialogs.h"
-#include "System/Lib_AboutDlg.h"
+#include "Screen/Lib_AboutDlg.h"
 #include "System/Lib_SystemWinInfo.h"
 #include "WindowTest.h"
 

@@ -7,7 +7,7 @@
 
 #include "Lib/LIB_INI.h"
 #include "Platform/Encoding.h"
-#include "Scanner/LIB_GENERALE.h"
+#include "Screen/LIB_GENERALE.h"
 #include "Screen/MainForm.h"
 #include "support/FakeShell.h"
 #include "support/SampleDisc.h"

@@ -1,0 +1,13 @@
+// Writes the table on show to an ASCII file; prints it, and the text pane,
+// through a preview.
+#pragma once
+
+#include "Screen/MainForm.h"
+
+namespace trovex {
+
+void Exporter_Click(MainForm& form);
+void Imprimer_Click(MainForm& form);
+void PrintTexte_Click(MainForm& form);
+
+}  // namespace trovex

@@ -1,0 +1,1 @@
+#include "Export/GridExport.h"

@@ -1,1 +1,0 @@
-#include "Export/PrtPreview.h"
