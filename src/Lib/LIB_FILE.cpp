@@ -13,7 +13,7 @@ constexpr std::uint32_t kDirectoryBuffer = 255;  // characters
 constexpr int kLastLimitedLine = 300;
 constexpr std::size_t kDateAndTime = 19;  // characters
 
-Text DirectoryOf(std::uint32_t (Platform::*operation)(Text&, std::uint32_t)) {
+Text DirectoryOf(std::uint32_t (FilePort::*operation)(Text&, std::uint32_t)) {
   Text buffer;
   (CurrentPlatform().*operation)(buffer, kDirectoryBuffer);
   return sAjouteBackslash(ToUpper(buffer));
@@ -80,10 +80,10 @@ Text sRepertoireSeul(TextView sChemin) {
   return sGaucheDernier(sChemin, u"\\");
 }
 Text sRepertoireWindows() {
-  return DirectoryOf(&Platform::GetWindowsDirectory);
+  return DirectoryOf(&FilePort::GetWindowsDirectory);
 }
 Text sRepertoireSysteme() {
-  return DirectoryOf(&Platform::GetSystemDirectory);
+  return DirectoryOf(&FilePort::GetSystemDirectory);
 }
 
 bool bFichierExiste(const Text& sNom) {

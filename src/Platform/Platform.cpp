@@ -9,7 +9,7 @@ Platform* current_platform = nullptr;
 
 }  // namespace
 
-bool Platform::GetFileProperties(const Text& name, FileStatus& status, std::string& record) {
+bool FilePort::GetFileProperties(const Text& name, FileStatus& status, std::string& record) {
   record.clear();
   if (!GetFileStatus(name, status)) return false;
   try {

@@ -18,7 +18,7 @@ constexpr std::uint32_t kBuffer = 50;  // characters
 // What the system leaves in a field of blanks: the directory with its terminator, if it fits.
 // Blanks at the end of a name stand before the terminator, out of reach of a trim at the right.
 // Nothing where the system gives no directory.
-std::optional<Text> DirectoryField(std::uint32_t (Platform::*operation)(Text&, std::uint32_t)) {
+std::optional<Text> DirectoryField(std::uint32_t (FilePort::*operation)(Text&, std::uint32_t)) {
   Text buffer;
   const std::uint32_t length = (CurrentPlatform().*operation)(buffer, kBuffer);
   if (length < 1) return std::nullopt;
@@ -56,12 +56,12 @@ Text sNomSysteme;
 Text sVersionSysteme;
 
 Text sRepertoireWindows() {
-  const std::optional<Text> field = DirectoryField(&Platform::GetWindowsDirectory);
+  const std::optional<Text> field = DirectoryField(&FilePort::GetWindowsDirectory);
   return field ? WithBackslash(sTronqueAuNul(Trimmed(*field))) : Text();
 }
 
 Text sRepertoireSysteme() {
-  const std::optional<Text> field = DirectoryField(&Platform::GetSystemDirectory);
+  const std::optional<Text> field = DirectoryField(&FilePort::GetSystemDirectory);
   return field ? WithBackslash(sTronqueAuNul(TrimmedRight(*field))) : Text();
 }
 

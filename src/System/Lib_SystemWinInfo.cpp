@@ -26,7 +26,7 @@ constexpr StringId kCaptions[] = {
     StringId::kListeProcessus,
 };
 
-Text DirectoryOf(std::uint32_t (Platform::*operation)(Text&, std::uint32_t)) {
+Text DirectoryOf(std::uint32_t (FilePort::*operation)(Text&, std::uint32_t)) {
   Text buffer;
   const std::uint32_t length = (CurrentPlatform().*operation)(buffer, kDirectoryBuffer);
   return buffer.substr(0, length);
@@ -118,8 +118,8 @@ void Lib_SystemWinInfo::WriteCaptions() {
 }
 
 void Lib_SystemWinInfo::WriteValues() {
-  const Text sWindows = DirectoryOf(&Platform::GetWindowsDirectory);
-  const Text sSystem = DirectoryOf(&Platform::GetSystemDirectory);
+  const Text sWindows = DirectoryOf(&FilePort::GetWindowsDirectory);
+  const Text sSystem = DirectoryOf(&FilePort::GetSystemDirectory);
   Text sNom, sVersion;
   LIB_SYSTEME::GetVersionSysteme(sNom, sVersion);
   const Text sProcesseur = NameOfProcessor();

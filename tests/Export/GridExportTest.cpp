@@ -7,7 +7,7 @@
 #include "Lib/LIB_OBJECT_GRID.h"
 #include "Lib/Lib_Form.h"
 #include "Lib/Lib_SelectDlg.h"
-#include "Platform/ForwardingPlatform.h"
+#include "Platform/PartScope.h"
 #include "Ui/CommonDialog.h"
 #include "Ui/FileListBox.h"
 #include "support/LogicTest.h"
@@ -20,9 +20,9 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 // A disk that is full from the first byte on.
-class FullDisk : public ForwardingPlatform {
+class FullDisk : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   void Write(FileHandle, const void*, std::size_t) override {
     throw RuntimeError(ErrorNumber::kDiskFull);
   }
@@ -233,7 +233,7 @@ TEST_F(GridExportTest, AFileThatCannotBeOpenedIsReportedAndNothingWritten) {
 
 TEST_F(GridExportTest, AFullDiskIsReportedAndTheFileClosed) {
   FullDisk full(disc.GetPlatform());
-  PlatformScope scope(full);
+  PartScope scope(full);
   Choose(0);
   view.AnswerFile(u"D:\\A.CSV");
   view.Answer(BoxAnswer::kOk);

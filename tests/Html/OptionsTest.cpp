@@ -1,7 +1,7 @@
 #include "Html/HtmlTest.h"
 #include "Html/LIB_HTML.h"
 #include "Html/Lib_RGBForm.h"
-#include "Platform/ForwardingPlatform.h"
+#include "Platform/PartScope.h"
 
 namespace trovex::test {
 namespace {
@@ -444,9 +444,9 @@ TEST_F(OptionsTest, OtherKeysAndSectionsOfTheFileStay) {
 }
 
 // Writing of some settings fails.
-class ReadOnlySettings : public ForwardingPlatform {
+class ReadOnlySettings : public ForwardingProfiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingProfiles::ForwardingProfiles;
   bool WritePrivateProfileString(const Text&, const Text& key, const Text&, const Text&) override {
     asked.push_back(key);
     return false;
@@ -457,7 +457,7 @@ class ReadOnlySettings : public ForwardingPlatform {
 TEST_F(OptionsTest, AReadOnlySettingsFileIsReportedForEachKeyAndTheOptionsHold) {
   Settings({u"html_titre=Vieux"});
   ReadOnlySettings platform(CurrentPlatform());
-  PlatformScope scope(platform);
+  PartScope scope(platform);
   for (int key = 0; key < 11; ++key) view.Answer(BoxAnswer::kOk);
   Open([](OptionsHTML& options) {
     options.TextTitre.SetText(u"Neuf");

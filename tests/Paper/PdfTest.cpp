@@ -1,10 +1,11 @@
+#include "Paper/PdfFile.h"
 #include "Paper/SavePdf.h"
 
 #include <fstream>
 #include <sstream>
 
 #include "Paper/PreviewTest.h"
-#include "Platform/ForwardingPlatform.h"
+#include "Platform/PartScope.h"
 
 namespace trovex::test {
 namespace {
@@ -13,13 +14,13 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 // A disk that takes a number of bytes and no more.
-class SmallDisk : public ForwardingPlatform {
+class SmallDisk : public ForwardingFiles {
  public:
-  SmallDisk(Platform& target, std::size_t room) : ForwardingPlatform(target), room_(room) {}
+  SmallDisk(Platform& target, std::size_t room) : ForwardingFiles(target), room_(room) {}
   void Write(FileHandle file, const void* data, std::size_t size) override {
     if (size > room_) throw RuntimeError(ErrorNumber::kDiskFull);
     room_ -= size;
-    ForwardingPlatform::Write(file, data, size);
+    ForwardingFiles::Write(file, data, size);
   }
 
  private:
@@ -147,7 +148,7 @@ TEST_F(PdfTest, AFullDiskLeavesNoHalfFileBehind) {
   for (int i = 0; i < 5000; ++i) Put(u"une ligne de texte");
   for (const std::size_t room : {std::size_t{0}, std::size_t{100000}}) {
     SmallDisk full(disc.GetPlatform(), room);
-    PlatformScope scope(full);
+    PartScope scope(full);
     view.Answer(BoxAnswer::kOk);
     EXPECT_FALSE(SavePdf(document, u"D:\\A.PDF"));
     EXPECT_TRUE(LastBox().starts_with(u"Erreur lors de la création du fichier PDF : D:\\A.PDF"));

@@ -1,6 +1,7 @@
 #include "Screen/Lib_AboutDlg.h"
 
 #include "Platform/Encoding.h"
+#include "Platform/PartScope.h"
 #include "System/SystemTest.h"
 
 namespace trovex::test {
@@ -160,16 +161,16 @@ TEST_F(VersionRecordBoxTest, ShowsTheRecordLineByLine) {
 }
 
 TEST_F(VersionRecordBoxTest, EndsWithTheDayOfTheProgramsDirectory) {
-  class Dated : public ForwardingPlatform {
+  class Dated : public ForwardingFiles {
    public:
-    using ForwardingPlatform::ForwardingPlatform;
+    using ForwardingFiles::ForwardingFiles;
     bool GetFileStatus(const Text& name, FileStatus& status) override {
       if (name != u"D:\\PROG") return Target().GetFileStatus(name, status);
       status = {kAttributeDirectory, 0, {1998, 5, 17, 12, 30, 59}};
       return true;
     }
   } dated(system);
-  const PlatformScope scope(dated);
+  const PartScope scope(dated);
   EXPECT_TRUE(Box().ends_with(u"Version 1.0.0 - 17/05/1998"));
 }
 

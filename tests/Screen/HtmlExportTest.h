@@ -14,9 +14,9 @@ inline constexpr std::size_t kNever = static_cast<std::size_t>(-1);
 inline const Text kBusy = u"Traitement en cours, patientez s.v.p";
 
 // A disk on which creating a file or writing to it fails where a test says so.
-class FailingDisk : public ForwardingPlatform {
+class FailingDisk : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
 
   Text refused;               // the name of a file that cannot be created
   std::size_t room = kNever;  // bytes until the disk is full
@@ -107,7 +107,7 @@ class HtmlExportTest : public ScreenTest {
   }
 
   FailingDisk disk{CurrentPlatform()};
-  PlatformScope disk_scope{disk};
+  PartScope<FailingDisk> disk_scope{disk};
 };
 
 inline std::string Page(const std::vector<std::string>& lines) {

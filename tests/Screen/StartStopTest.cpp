@@ -168,15 +168,15 @@ TEST_F(StartStopTest, AFormThatFailsWhileGoingDoesNotHoldTheStop) {
   other.on_unload = {};
 }
 
-class UndeletablePlatform : public ForwardingPlatform {
+class UndeletablePlatform : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   void DeleteFile(const Text&) override { throw RuntimeError(ErrorNumber::kPathFileAccess); }
 };
 
 TEST_F(StartStopTest, ATemporaryFileThatCannotBeDeletedStaysWithoutAMessage) {
   UndeletablePlatform undeletable(machine);
-  PlatformScope scope(undeletable);
+  PartScope scope(undeletable);
   disc.File("TMP/~Trvx023.tmp");
   sFichierTemp = u"D:\\TMP\\~Trvx023.tmp";
   EffacerFichierTemp();

@@ -260,9 +260,9 @@ TEST_F(InformationToolTest, IsLookedForOnlyWhereBothKeysAreEmpty) {
 
 TEST_F(InformationToolTest, ThatIsFoundByItsUsualNameStarts) {
   // The root of the current drive, as the guess has no directory before its backslash.
-  class RootDrive : public ForwardingPlatform {
+  class RootDrive : public ForwardingFiles {
    public:
-    using ForwardingPlatform::ForwardingPlatform;
+    using ForwardingFiles::ForwardingFiles;
     FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
       return Target().FindFirstFile(pattern.starts_with(u'\\') ? u"D:" + pattern : pattern, data);
     }
@@ -270,7 +270,7 @@ TEST_F(InformationToolTest, ThatIsFoundByItsUsualNameStarts) {
       return Target().GetFileStatus(name.starts_with(u'\\') ? u"D:" + name : name, status);
     }
   } root_drive(system);
-  const PlatformScope scope(root_drive);
+  const PartScope scope(root_drive);
   disc.File("MSINFO32.EXE", "MZ");
   LIB_SYSTEME::LanceMSInfo();
   EXPECT_THAT(Started(), ElementsAre(u"\\MSINFO32.exe"));

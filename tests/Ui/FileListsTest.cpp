@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Platform/ForwardingPlatform.h"
+#include "Platform/PartScope.h"
 #include "Ui/DirListBox.h"
 #include "Ui/DriveListBox.h"
 #include "Ui/FileListBox.h"
@@ -86,20 +86,20 @@ TEST_F(FileListBoxTest, HiddenFilesTakePartIfSwitchedOn) {
 }
 
 // Counts the directories that are read.
-class CountingPlatform : public ForwardingPlatform {
+class CountingPlatform : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
     ++searches;
-    return ForwardingPlatform::FindFirstFile(pattern, data);
+    return ForwardingFiles::FindFirstFile(pattern, data);
   }
   int searches = 0;
 };
 
 // One search, with attributes that no test can set on every system.
-class SystemFilePlatform : public ForwardingPlatform {
+class SystemFilePlatform : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   FindHandle FindFirstFile(const Text&, FindData& data) override {
     data = {kAttributeSystem, u"IO.SYS"};
     return FindHandle{7};
@@ -110,7 +110,7 @@ class SystemFilePlatform : public ForwardingPlatform {
 
 TEST_F(FileListBoxTest, SystemFilesTakePartIfSwitchedOn) {
   SystemFilePlatform platform(disc_.GetPlatform());
-  PlatformScope scope(platform);
+  PartScope scope(platform);
   list_.SetPath(u"D:\\");
   EXPECT_THAT(Entries(list_), IsEmpty());
   list_.SetSystem(true);
@@ -153,7 +153,7 @@ TEST_F(FileListBoxTest, ShowSetsPathAndPatternWithOneReading) {
   disc_.File("JEUX/A.EXE");
   disc_.File("JEUX/B.TXT");
   CountingPlatform counting(CurrentPlatform());
-  PlatformScope scope(counting);
+  PartScope scope(counting);
   list_.Show(u"D:\\JEUX\\", u"*.txt");
   EXPECT_THAT(Entries(list_), ElementsAre(u"B.TXT"));
   EXPECT_EQ(list_.Path(), u"D:\\JEUX");
@@ -280,14 +280,14 @@ TEST_F(DirListBoxTest, APathThatHasGoneFallsBackToItsNearestParent) {
 }
 
 // A drive whose disc can be taken out.
-class TrayPlatform : public ForwardingPlatform {
+class TrayPlatform : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   bool GetFileStatus(const Text& name, FileStatus& status) override {
-    return !open && ForwardingPlatform::GetFileStatus(name, status);
+    return !open && ForwardingFiles::GetFileStatus(name, status);
   }
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
-    if (!open) return ForwardingPlatform::FindFirstFile(pattern, data);
+    if (!open) return ForwardingFiles::FindFirstFile(pattern, data);
     data = {};
     return FindHandle::kInvalid;
   }
@@ -296,7 +296,7 @@ class TrayPlatform : public ForwardingPlatform {
 
 TEST_F(DirListBoxTest, WithoutADiscTheRootIsLeftAndTheNextDiscIsShown) {
   TrayPlatform tray(disc_.GetPlatform());
-  PlatformScope scope(tray);
+  PartScope scope(tray);
   disc_.Directory("JEUX/ARCADE");
   list_.SetPath(u"D:\\JEUX\\ARCADE");
   tray.open = true;
@@ -318,9 +318,9 @@ TEST_F(DirListBoxTest, WithoutAPathThereIsNothingToUpdate) {
 }
 
 // A share of the network, all directories.
-class SharePlatform : public ForwardingPlatform {
+class SharePlatform : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   bool GetFileStatus(const Text& name, FileStatus& status) override {
     status = {kAttributeDirectory, 0, {}};
     return name.starts_with(there);
@@ -334,7 +334,7 @@ class SharePlatform : public ForwardingPlatform {
 
 TEST_F(DirListBoxTest, AShareHasNoParent) {
   SharePlatform share(disc_.GetPlatform());
-  PlatformScope scope(share);
+  PartScope scope(share);
   list_.SetPath(u"\\\\serveur\\disques\\jeux");
   EXPECT_EQ(list_.Depth(), 1);
   EXPECT_EQ(list_.List(-2), u"\\\\serveur\\disques");
@@ -344,9 +344,9 @@ TEST_F(DirListBoxTest, AShareHasNoParent) {
 }
 
 // Drives that a test spells out; a floppy and a drive of the network among them.
-class DrivesPlatform : public ForwardingPlatform {
+class DrivesPlatform : public ForwardingFiles {
  public:
-  using ForwardingPlatform::ForwardingPlatform;
+  using ForwardingFiles::ForwardingFiles;
   std::uint32_t GetLogicalDrives() override { return mask; }
   DriveType GetDriveType(const Text& root) override {
     if (root == u"A:\\") return DriveType::kRemovable;
@@ -372,7 +372,7 @@ class DriveListBoxTest : public testing::Test {
   }
   TestDisc disc_;
   DrivesPlatform platform_{disc_.GetPlatform()};
-  PlatformScope scope_{platform_};
+  PartScope<DrivesPlatform> scope_{platform_};
   DriveListBox list_;
   int changes_ = 0;
 };

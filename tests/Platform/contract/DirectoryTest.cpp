@@ -12,7 +12,7 @@ using testing::Not;
 
 class DirectoryContract : public Contract {
  protected:
-  using Operation = std::uint32_t (Platform::*)(Text&, std::uint32_t);
+  using Operation = std::uint32_t (FilePort::*)(Text&, std::uint32_t);
 
   // The rule of sizes, which both directory operations follow.
   void CheckSizes(Operation operation) {
@@ -62,13 +62,13 @@ TEST_F(DirectoryContract, AMissingDriveHasNoLabel) {
 // --- Directories of the system ----------------------------------------------------------------
 
 TEST_F(DirectoryContract, SystemDirectoriesFollowTheRuleOfSizes) {
-  CheckSizes(&Platform::GetWindowsDirectory);
-  CheckSizes(&Platform::GetSystemDirectory);
+  CheckSizes(&FilePort::GetWindowsDirectory);
+  CheckSizes(&FilePort::GetSystemDirectory);
 }
 
 TEST_F(DirectoryContract, SystemDirectoriesHaveNoFinalBackslash) {
-  const Text windows = Directory(&Platform::GetWindowsDirectory);
-  const Text system = Directory(&Platform::GetSystemDirectory);
+  const Text windows = Directory(&FilePort::GetWindowsDirectory);
+  const Text system = Directory(&FilePort::GetSystemDirectory);
   EXPECT_EQ(ToUpper(windows), u"C:\\WINDOWS");
   EXPECT_TRUE(ToUpper(system).starts_with(ToUpper(windows) + u"\\SYSTEM"));
   EXPECT_FALSE(system.ends_with(u'\\'));
