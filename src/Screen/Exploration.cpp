@@ -5,6 +5,7 @@
 #include "Platform/ScanCache.h"
 #include "Resources/Strings.h"
 #include "Screen/RowInspector.h"
+#include "Screen/WindowCommands.h"
 #include "Ui/Directory.h"
 
 namespace trovex {

@@ -6,6 +6,7 @@
 
 #include "Html/Lib_OptionsHTML.h"
 #include "Lib/Lib_SelectDlg.h"
+#include "Platform/PartScope.h"
 #include "Screen/ScreenTest.h"
 
 namespace trovex::test {

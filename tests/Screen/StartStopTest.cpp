@@ -2,6 +2,7 @@
 
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_SelectDlg.h"
+#include "Platform/PartScope.h"
 #include "support/MachineTest.h"
 
 namespace trovex::test {

@@ -1,5 +1,6 @@
 #include "System/COpSysInfo.h"
 
+#include "Platform/PartScope.h"
 #include "SystemTest.h"
 
 namespace trovex::test {
