@@ -20,6 +20,9 @@ class Host {
   // A file argument (UTF-8, relative to the host's current directory or absolute) as the program
   // writes it.
   virtual Text NameOf(const std::string& argument) = 0;
+  // The settings file of a program that is installed, as the program writes it; empty where it
+  // stands beside the program.
+  virtual Text InstalledSettings() { return {}; }
 };
 
 // Opens `directory` (UTF-8). On Posix it becomes the root of `drive`, a CD-ROM drive, and the

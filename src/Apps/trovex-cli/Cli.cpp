@@ -75,7 +75,7 @@ class Session {
   Session(const Options& options, Host& host, HeadlessView& view)
       : options_(options),
         view_(view),
-        ini_(NameOf(host, options.ini)),
+        ini_(options.ini ? host.NameOf(*options.ini) : host.InstalledSettings()),
         html_(TargetOf(host, options.html, ".htm")),
         pdf_(TargetOf(host, options.pdf, ".pdf")),
         ascii_{TargetOf(host, options.csv, ".csv"), TargetOf(host, options.prn, ".prn"),
@@ -84,7 +84,7 @@ class Session {
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
     Main(form);
-    if (options_.ini) sFichierIni = ini_;
+    if (options_.ini || !ini_.empty()) sFichierIni = ini_;
     form.ListeRepertoire.SetPath(start);
     form.Explorer.Press();
     std::optional<Inspection> inspection;
@@ -98,10 +98,6 @@ class Session {
   }
 
  private:
-  static Text NameOf(Host& host, const std::optional<std::string>& argument) {
-    return argument ? host.NameOf(*argument) : Text();
-  }
-
   // A name without a point gets the extension, as the dialog for saving gives it to a user's.
   static Text TargetOf(Host& host, const std::optional<std::string>& argument,
                        const char* extension) {

@@ -8,6 +8,7 @@
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
 #include "Platform/Posix/HostCalls.h"
+#include "Platform/Posix/InstalledSettings.h"
 #include "Platform/Posix/PosixPlatform.h"
 
 namespace trovex {
@@ -35,9 +36,15 @@ std::string ProgramDirectory() {
   return error ? "/" : program.parent_path().string();
 }
 
+// Empty where it is not set.
+std::string Variable(const char* name) {
+  const char* value = getenv(name);
+  return value != nullptr ? value : std::string();
+}
+
 std::string TemporaryDirectory() {
-  const char* directory = getenv("TMPDIR");
-  return directory != nullptr && *directory != '\0' ? directory : "/tmp";
+  const std::string directory = Variable("TMPDIR");
+  return directory.empty() ? "/tmp" : directory;
 }
 
 // Why the directory cannot be catalogued; empty if it can.
@@ -85,6 +92,11 @@ class PosixHost : public Host {
   Text NameOf(const std::string& argument) override {
     if (argument.empty()) return {};
     return platform_.NameOfHost(root_drive_, RealPath(argument));
+  }
+
+  Text InstalledSettings() override {
+    return NameOf(posix::InstalledSettings(ProgramDirectory(), Variable("XDG_CONFIG_HOME"),
+                                           Variable("HOME")));
   }
 
  private:
