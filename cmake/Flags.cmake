@@ -21,7 +21,29 @@ if(TROVEX_FUZZ)
 endif()
 if(WIN32)
   target_compile_definitions(trovex_flags INTERFACE
-    UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+    # Windows XP: what is later is not declared, and structures have the sizes that XP knows.
+    UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0501 WINVER=0x0501)
   # One file, nothing to install. The stack carries the walk of a very deep tree.
-  target_link_options(trovex_flags INTERFACE -static -Wl,--stack,16777216)
+  target_link_options(trovex_flags INTERFACE -static -Wl,--stack,16777216
+    -Wl,--no-insert-timestamp # the same bytes from the same sources
+    $<$<CONFIG:MinSizeRel>:-s>)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_link_options(trovex_flags INTERFACE
+      -Wl,--major-subsystem-version,5,--minor-subsystem-version,1
+      -Wl,--major-os-version,5,--minor-os-version,1)
+  endif()
+endif()
+
+# What the tests' own sources have behind it: nobody waits for their speed, many for their compiling,
+# and their arithmetic is not what is on trial.
+add_library(trovex_test_flags INTERFACE)
+target_link_libraries(trovex_test_flags INTERFACE trovex_flags)
+target_compile_options(trovex_test_flags INTERFACE -O0 -g1)
+if(WIN32)
+  # The tests run on the Windows that is here.
+  target_compile_options(trovex_test_flags INTERFACE -g0
+    -U_WIN32_WINNT -D_WIN32_WINNT=0x0601 -UWINVER -DWINVER=0x0601)
+endif()
+if(TROVEX_SANITIZE)
+  target_compile_options(trovex_test_flags INTERFACE -fno-sanitize=undefined)
 endif()

@@ -1,7 +1,7 @@
-# MinGW-w64 with the POSIX thread model, whose standard library is complete.
+# MinGW-w64 for the machine and the thread model that the including file names.
 set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_CXX_COMPILER ${TROVEX_MINGW}-g++-posix)
-set(CMAKE_C_COMPILER ${TROVEX_MINGW}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${TROVEX_MINGW}-g++-${TROVEX_MINGW_THREADS})
+set(CMAKE_C_COMPILER ${TROVEX_MINGW}-gcc-${TROVEX_MINGW_THREADS})
 set(CMAKE_RC_COMPILER ${TROVEX_MINGW}-windres)
 set(CMAKE_FIND_ROOT_PATH /usr/${TROVEX_MINGW})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

@@ -16,7 +16,7 @@ die() {
 
 # What each job needs, as packages of Debian 12.
 packages_native=(g++ cmake ninja-build ccache googletest nlohmann-json3-dev libcli11-dev)
-packages_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
+packages_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix g++-mingw-w64-i686-win32)
 # Of what Wine only recommends: the libraries of its windows, and letters to write in them.
 packages_windows_of_wine=(libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 libxcomposite1
   libxinerama1 fonts-liberation)
@@ -26,9 +26,14 @@ packages_wine32=(wine wine32 "${packages_windows_of_wine[@]}")
 packages_checks=(python3 clang-format-14 poppler-utils)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_pictures=(xdotool imagemagick)
+packages_browser=(chromium)
+packages_release=(zip unzip dpkg-dev lintian man-db bash-completion zsh fish debootstrap)
 
-# Where packaging/wine-root puts the 32-bit Wine, for all checkouts of the user.
-wine_root=${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/trovex/wine-i386
+# What is made once for all checkouts of the user: the Debian with the 32-bit Wine, and the one in which
+# packages are tried.
+readonly cache=${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/trovex
+readonly wine_root=$cache/wine-i386
+readonly clean_root=$cache/debian-$(dpkg --print-architecture 2>/dev/null)
 
 # How to have mount points of one's own: unshare "${unshare_as[@]}" COMMAND.
 unshare_as=(--mount --propagation private)

@@ -1,6 +1,7 @@
 #include "Platform/Win32/Search.h"
 
 #include "Platform/Pattern.h"
+#include "Platform/Win32/FirstEntry.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Windows.h"
@@ -43,9 +44,7 @@ bool Search::Advance(FindData& data) {
   for (;;) {
     if (!question_.empty()) {
       const Unredirected unredirected;
-      handle_ =
-          OwnFind(FindFirstFileExW(Wide(question_), FindExInfoBasic, &entry, FindExSearchNameMatch,
-                                   nullptr, FIND_FIRST_EX_LARGE_FETCH));
+      handle_ = OwnFind(FirstEntry(Wide(question_), entry));
       question_.clear();
       if (!handle_) return false;
     } else if (!handle_ || !FindNextFileW(handle_.get(), &entry)) {

@@ -1,0 +1,1 @@
+// Has the headers compiled that src/CMakeLists.txt names.
