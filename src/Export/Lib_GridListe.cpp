@@ -18,8 +18,6 @@ Lib_GridListe::Lib_GridListe()
       cmdFermer(Get<Button>(u"cmdFermer")),
       cmdExporter(Get<Button>(u"cmdExporter")),
       Reponse(Get<Label>(u"reponse")) {
-  LibelleGrid.SetFont({u"Times New Roman", 12});
-  LibelleGrid.SetAlignment(Alignment::kCentre);
   on_load = [this] {
     BusyOn();
     CenterForm(*this);

@@ -44,10 +44,10 @@ OptionsHTML::OptionsHTML()
       FichierHTML(Get<Button>(u"FichierHTML")),
       Fermer(Get<Button>(u"Fermer")),
       PanelAide(Get<Panel>(u"PanelAide")) {
-  PresetDesign();
+  CheckCR.SetTag(u"1");
   BindDependents();
   BindPickers();
-  BindHelp();
+  on_help_line = [this](const Text& sTexte) { PanelAide.SetCaption(sTexte); };
   on_load = [this] { Form_Load(); };
   on_activate = [] { CurrentView().SetPointer(Pointer::kDefault); };
   on_paint = [this] {
@@ -58,40 +58,6 @@ OptionsHTML::OptionsHTML()
   on_key_press = [this](int key) {
     if (key == kKeyEscape) Fermer.Press();
   };
-}
-
-void OptionsHTML::PresetDesign() {
-  for (CheckBox* box : {&CheckEntete, &CheckFin, &CheckFrame, &CheckCR, &CheckTitre}) {
-    box->Preset(true);
-  }
-  OptionTag(1).Preset(true);
-  CheckCR.SetTag(u"1");
-  CouleurRGB.SetText(u"#FFFFFF");
-  TextSuffixe.SetText(u"figure");
-  for (Control* control :
-       std::initializer_list<Control*>{&CouleurRGB, &LabelNom(0), &ImageBack, &LabelNom(1),
-                                       &ImageDebut, &TextSuffixe, &LabelFichier, &RefHTML}) {
-    control->SetEnabled(false);
-  }
-}
-
-void OptionsHTML::SetCaptions() {
-  SetCaption(ResString(StringId::kOptionsHtml));
-  CheckEntete.SetCaption(ResString(StringId::kInsererEntete));
-  CheckCR.SetCaption(ResString(StringId::kRemplacerRetours));
-  CheckFin.SetCaption(ResString(StringId::kInsererFin));
-  CheckFrame.SetCaption(ResString(StringId::kAutoriserFrame));
-  CheckTitre.SetCaption(ResString(StringId::kTitreHtml));
-  CheckFond.SetCaption(ResString(StringId::kCouleurFond));
-  LaCouleur.SetCaption(ResString(StringId::kCouleur));
-  CheckBack.SetCaption(ResString(StringId::kImageFond));
-  LabelNom(0).SetCaption(ResString(StringId::kNom));
-  CheckImage.SetCaption(ResString(StringId::kImageDebut));
-  LabelNom(1).SetCaption(ResString(StringId::kNom));
-  CheckSuffixe.SetCaption(ResString(StringId::kPrefixeImages));
-  CheckRef.SetCaption(ResString(StringId::kLierReferences));
-  LabelFichier.SetCaption(ResString(StringId::kLabelFichier));
-  Fermer.SetCaption(ResString(StringId::kFermer));
 }
 
 void OptionsHTML::BindDependents() {
@@ -135,7 +101,6 @@ void OptionsHTML::BindDependents() {
 void OptionsHTML::Form_Load() {
   CurrentView().SetPointer(Pointer::kHourglass);
   CenterForm(*this);
-  SetCaptions();
   if (bFichierExiste(sFichierIni)) ReadSettings();
 }
 

@@ -42,11 +42,8 @@ class OptionsHTML : public Form {
   OptionButton& OptionTag(int index) { return Get<OptionButton>(u"OptionTag", index); }
 
  private:
-  void SetCaptions();
-  void PresetDesign();
   void BindDependents();
   void BindPickers();
-  void BindHelp();
 
   void Form_Load();
   void Form_Unload();

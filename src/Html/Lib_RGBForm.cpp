@@ -6,7 +6,6 @@
 #include "Html/LIB_RGB.h"
 #include "Lib/Dialogs.h"
 #include "Lib/Graphics.h"
-#include "Lib/HelpPanel.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Resources/RgbFormTable.h"
 #include "Resources/Strings.h"
@@ -72,21 +71,10 @@ Lib_RGBForm::Lib_RGBForm()
   BindChannel(HScroll_R, R_Value);
   BindChannel(HScroll_G, G_Value);
   BindChannel(HScroll_B, B_Value);
-  BindHelp();
-  Get<Shape>(u"CadreRGB").SetBackColor(Rgb(128, 128, 128));
-  LabelRGB.SetAlignment(Alignment::kCentre);
-  Get<Label>(u"LabelR").SetForeColor(Rgb(255, 0, 0));
-  Get<Label>(u"LabelG").SetForeColor(Rgb(0, 255, 0));
-  Get<Label>(u"LabelB").SetForeColor(Rgb(0, 0, 255));
-  R_Value.SetForeColor(Rgb(255, 0, 0));
-  G_Value.SetForeColor(Rgb(0, 255, 0));
-  B_Value.SetForeColor(Rgb(0, 0, 255));
+  on_help_line = [this](const Text& sTexte) { PanelAide.SetCaption(sTexte); };
   on_load = [this] {
     CurrentView().SetPointer(Pointer::kHourglass);
     CenterForm(*this);
-    SetCaption(ResString(StringId::kSelectionCouleur));
-    Valider.SetCaption(ResString(StringId::kValider));
-    Annuler.SetCaption(ResString(StringId::kAnnuler));
   };
   on_activate = [this] {
     AfficheCouleur();
@@ -103,7 +91,6 @@ Lib_RGBForm::Lib_RGBForm()
 }
 
 void Lib_RGBForm::BindChannel(ScrollBar& bar, TextBox& field) {
-  field.SetText(u"000");
   bar.SetRange(kLeast, kGreatest);
   bar.SetValue(kGreatest);
   bar.on_change = bar.on_scroll = [this] { AfficheCouleur(); };
@@ -123,21 +110,6 @@ void Lib_RGBForm::AfficheCouleur() {
 void Lib_RGBForm::Answer(const Text& tag) {
   Reponse.SetTag(tag);
   Hide();
-}
-
-void Lib_RGBForm::BindHelp() {
-  const auto tell = [this](Control& control, const Text& sTexte) {
-    TellInPanel(PanelAide, control, sTexte);
-  };
-  tell(*this, {});
-  tell(Valider, ResString(StringId::kAideValider));
-  tell(Annuler, ResString(StringId::kAideAnnuler));
-  tell(PictureRGB, ResString(StringId::kAidePictureRgb));
-  tell(LabelRGB, ResString(StringId::kAideLabelRgb));
-  tell(Get<Label>(u"LabelR"), ResString(StringId::kCanalRouge));
-  tell(Get<Label>(u"LabelG"), ResString(StringId::kCanalVert));
-  tell(Get<Label>(u"LabelB"), ResString(StringId::kCanalBleu));
-  tell(PanelAide, ResString(StringId::kAideZone));
 }
 
 Text sGetDialogRGBbyString(Text& sCouleur) {

@@ -30,7 +30,6 @@ class Lib_RGBForm : public Form {
  private:
   void AfficheCouleur();
   void BindChannel(ScrollBar& bar, TextBox& field);
-  void BindHelp();
   void Answer(const Text& tag);
 };
 

@@ -2,7 +2,6 @@
 
 #include "Lib/Graphics.h"
 #include "Resources/SelectDlgTable.h"
-#include "Resources/Strings.h"
 
 namespace trovex {
 namespace {
@@ -12,12 +11,7 @@ constexpr int kOptions = 3;
 }  // namespace
 
 Lib_SelectDlg::Lib_SelectDlg() : Form(kSelectDlgSpec) {
-  on_load = [this] {
-    CenterForm(*this);
-    SetCaption(ResString(StringId::kFaitesVotreChoix));
-    Oui().SetCaption(ResString(StringId::kValider));
-    Annuler().SetCaption(ResString(StringId::kAnnuler));
-  };
+  on_load = [this] { CenterForm(*this); };
   for (int i = 0; i < kOptions; ++i) {
     SelOptions(i).on_click = [this, i] { SelOptions(0).SetTag(Decimal(i)); };
   }

@@ -12,10 +12,6 @@
 namespace trovex {
 namespace {
 
-Font Times(double size) {
-  return {u"Times New Roman", size, true};
-}
-
 // Day of the last change of the program's directory; empty where that cannot be read.
 Text sDateProgramme() {
   FileStatus status;
@@ -35,10 +31,6 @@ Lib_AboutDlg::Lib_AboutDlg()
       LabelAccord(Get<Label>(u"LabelAccord")),
       CommFermer(Get<Button>(u"CommFermer")),
       CommInfos(Get<Button>(u"CommInfos")) {
-  LabelNom.SetFont(Times(14.25));
-  LabelVersion.SetFont(Times(12));
-  LabelAccord.SetFont(Times(9.75));
-  for (Label* label : {&LabelNom, &LabelVersion}) label->SetAlignment(Alignment::kCentre);
   on_load = [this] { Form_Load(); };
   on_activate = [this] {
     CurrentView().BringToFront(*this);
@@ -54,19 +46,12 @@ Lib_AboutDlg::Lib_AboutDlg()
 }
 
 void Lib_AboutDlg::BindButtons() {
-  CommFermer.SetPicture(u"Fermer");
-  CommFermer.SetAccessibleName(ResString(StringId::kFermer));
   CommFermer.on_click = [this] { Unload(); };
-  CommInfos.SetPicture(u"Infos");
-  CommInfos.SetAccessibleName(ResString(StringId::kInfosVersion));
   CommInfos.on_click = [] {
     CurrentView().SetPointer(Pointer::kHourglass);
     AfficheInfosVersion();
     CurrentView().SetPointer(Pointer::kDefault);
   };
-  for (Button* button : {&CommFermer, &CommInfos}) {
-    button->on_mouse_move = [button] { button->SetFocus(); };
-  }
 }
 
 void Lib_AboutDlg::Form_Load() {

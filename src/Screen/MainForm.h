@@ -51,9 +51,6 @@ class MainForm : public Form {
   StatusBar& PanelAide;
 
  private:
-  void DressControls();
-  void DressTextBoxes();
-  void OrderTabs();
   void BindEvents();
 
   std::array<Grid*, kTableCount> grids_;

@@ -43,24 +43,10 @@ void Form_Resize(MainForm& form) {
   if (form.Height() < kMainFormMinimum.height) {
     return form.Resize(form.Width(), kMainFormMinimum.height);
   }
-  const double SW = form.ScaleWidth(), SH = form.ScaleHeight();
-  TabControl& zone = form.ZoneDesTableaux;
   Line& line1 = form.Get<Line>(u"Line1", 0);
-  form.ShapeOmbre(0).SetLeft(SW - form.ShapeOmbre(0).Width());
-  form.Quitter.SetLeft(form.ShapeOmbre(0).Left() -
-                       (form.ShapeOmbre(2).Left() - form.Explorer.Left()));
-  line1.SetX2(SW - zone.Left());
-  TraceLigneHorizontale3D(form, line1);
-  zone.SetWidth(SW - 2 * zone.Left());
-  form.TextInfo(6).SetLeft(zone.Width() + zone.Left() - form.TextInfo(6).Width());
-  form.IconeFichier.SetLeft(form.TextInfo(6).Left() + zone.Left());
-  form.TextInfo(5).SetWidth(form.TextInfo(6).Left() - form.TextInfo(5).Left());
-  for (int i : {4, 3, 2, 1}) form.TextInfo(i).SetWidth(form.TextInfo(5).Width());
-  form.ListFichier.SetHeight(SH - (form.PanelAide.Height() + form.ListFichier.Top()));
-  TextBox& pane = form.TextInfo(0);
-  pane.Move({pane.Left(), pane.Top(), zone.Width() - pane.Left(), form.ListFichier.Height()});
-  Grid& grid = form.GridLogiciel(zone.Tab());
-  grid.SetWidth(zone.Width() - 2 * grid.Left());
+  form.ArrangeControls(form.ZoneDesTableaux.Tab(), [&](Control& control) {
+    if (&control == &line1) TraceLigneHorizontale3D(form, line1);
+  });
 }
 
 void Form_Paint(MainForm& form) {

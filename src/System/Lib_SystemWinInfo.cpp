@@ -15,17 +15,6 @@ namespace {
 constexpr std::uint32_t kDirectoryBuffer = 255;  // characters
 constexpr int kGroup = 3;                        // digits
 
-constexpr StringId kCaptions[] = {
-    StringId::kRepertoireWindows,
-    StringId::kRepertoireSystem,
-    StringId::kMemoirePhysique,
-    StringId::kMemoireVirtuelle,
-    StringId::kSysteme,
-    StringId::kVersionSysteme,
-    StringId::kCpu,
-    StringId::kListeProcessus,
-};
-
 Text DirectoryOf(std::uint32_t (FilePort::*operation)(Text&, std::uint32_t)) {
   Text buffer;
   const std::uint32_t length = (CurrentPlatform().*operation)(buffer, kDirectoryBuffer);
@@ -86,9 +75,6 @@ Lib_SystemWinInfo::Lib_SystemWinInfo()
       CommandMSInfo(Get<Button>(u"CommandMSInfo")),
       AfficheProcess(Get<Button>(u"AfficheProcess")),
       ListProcess(Get<ListBox>(u"ListProcess")) {
-  CommandMSInfo.SetPicture(u"SystemeInfo");
-  CommandMSInfo.SetAccessibleName(ResString(StringId::kOutilSysteme));
-  ListProcess.SetAccessibleName(ResString(StringId::kListeProcessus));
   on_load = [this] { Form_Load(); };
   on_activate = [] { CurrentView().SetPointer(Pointer::kDefault); };
   on_unload = [this] {
@@ -104,17 +90,8 @@ Lib_SystemWinInfo::Lib_SystemWinInfo()
 void Lib_SystemWinInfo::Form_Load() {
   CurrentView().SetPointer(Pointer::kHourglass);
   CenterForm(*this);
-  WriteCaptions();
   WriteValues();
   AfficheProcess_Click();
-}
-
-void Lib_SystemWinInfo::WriteCaptions() {
-  SetCaption(ResString(StringId::kInformationsWindows));
-  ZoneInfos.SetCaption(ResString(StringId::kInformationsGenerales));
-  AfficheProcess.SetCaption(ResString(StringId::kRafraichir));
-  int index = 0;
-  for (const StringId caption : kCaptions) Label2(index++).SetCaption(ResString(caption));
 }
 
 void Lib_SystemWinInfo::WriteValues() {

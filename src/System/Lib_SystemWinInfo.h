@@ -25,7 +25,6 @@ class Lib_SystemWinInfo : public Form {
 
  private:
   void Form_Load();
-  void WriteCaptions();
   void WriteValues();
   // Adds the running programs below what the list holds already.
   void AfficheProcess_Click();

@@ -11,7 +11,7 @@ class Button : public Captioned {
   Button() : Captioned(ControlKind::kButton) {}
 
   const Text& Picture() const { return picture_; }
-  void SetPicture(Text name) { picture_ = std::move(name); }
+  void SetPicture(Text name) { Set(picture_, std::move(name), Property::kDesign); }
   // What a click of the user's does.
   void Press() { Raise(on_click); }
 

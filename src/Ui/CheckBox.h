@@ -13,7 +13,7 @@ class CheckBox : public Captioned {
   // A new state raises the click.
   void SetValue(bool value);
   // The state of the design, without the click.
-  void Preset(bool value) { value_ = value; }
+  void Preset(bool value) { Set(value_, value, Property::kSelection); }
 
  private:
   bool value_ = false;

@@ -23,27 +23,34 @@ void Control::SetHeight(double height) {
 }
 
 void Control::Move(const Place& place) {
-  if (place == place_) return;
-  place_ = place;
-  Notify(Property::kPlace);
+  Set(place_, place, Property::kPlace);
 }
-
 void Control::SetVisible(bool visible) {
-  if (visible == visible_) return;
-  visible_ = visible;
-  Notify(Property::kVisible);
+  Set(visible_, visible, Property::kVisible);
 }
-
 void Control::SetEnabled(bool enabled) {
-  if (enabled == enabled_) return;
-  enabled_ = enabled;
-  Notify(Property::kEnabled);
+  Set(enabled_, enabled, Property::kEnabled);
 }
-
 void Control::SetBackColor(unsigned colour) {
-  if (colour == back_color_) return;
-  back_color_ = colour;
-  Notify(Property::kColour);
+  Set(back_color_, colour, Property::kColour);
+}
+void Control::SetForeColor(unsigned colour) {
+  Set(fore_color_, colour, Property::kColour);
+}
+void Control::SetToolTip(Text tip) {
+  Set(tool_tip_, std::move(tip), Property::kDesign);
+}
+void Control::SetAccessibleName(Text name) {
+  Set(accessible_name_, std::move(name), Property::kDesign);
+}
+void Control::SetTabOrder(int order) {
+  Set(tab_order_, order, Property::kDesign);
+}
+void Control::SetFont(Font font) {
+  Set(font_, std::move(font), Property::kDesign);
+}
+void Control::SetAlignment(Alignment alignment) {
+  Set(alignment_, alignment, Property::kDesign);
 }
 
 void Control::SetFocus() {

@@ -4,6 +4,8 @@
 #include <functional>
 
 #include "Platform/RuntimeError.h"
+#include "Ui/Alignment.h"
+#include "Ui/Font.h"
 #include "Ui/View.h"
 
 namespace trovex {
@@ -91,14 +93,20 @@ class Control {
   const Text& Tag() const { return tag_; }
   void SetTag(Text tag) { tag_ = std::move(tag); }
   const Text& ToolTip() const { return tool_tip_; }
-  void SetToolTip(Text tip) { tool_tip_ = std::move(tip); }
+  void SetToolTip(Text tip);
   // What a screen reader says for a control whose own text does not tell; empty where it does.
   const Text& AccessibleName() const { return accessible_name_; }
-  void SetAccessibleName(Text name) { accessible_name_ = std::move(name); }
+  void SetAccessibleName(Text name);
   int TabOrder() const { return tab_order_; }
-  void SetTabOrder(int order) { tab_order_ = order; }
+  void SetTabOrder(int order);
   unsigned BackColor() const { return back_color_; }
   void SetBackColor(unsigned colour);
+  unsigned ForeColor() const { return fore_color_; }
+  void SetForeColor(unsigned colour);
+  const Font& GetFont() const { return font_; }
+  void SetFont(Font font);
+  Alignment GetAlignment() const { return alignment_; }
+  void SetAlignment(Alignment alignment);
 
   void SetFocus();
   // Paints the control at once.
@@ -111,6 +119,13 @@ class Control {
  protected:
   // Tells the view of the loaded form, if there is one.
   void Notify(Property property);
+  // Gives a property its new value and tells the view, if that makes a difference.
+  template <typename Value>
+  void Set(Value& property, Value value, Property kind) {
+    if (property == value) return;
+    property = std::move(value);
+    Notify(kind);
+  }
   virtual View* AttachedView() const;
 
   Place place_;
@@ -129,6 +144,9 @@ class Control {
   Text accessible_name_;
   int tab_order_ = -1;
   unsigned back_color_ = 0xFFFFFF;
+  unsigned fore_color_ = 0;
+  Font font_;
+  Alignment alignment_ = Alignment::kLeft;
 };
 
 }  // namespace trovex

@@ -71,19 +71,75 @@ std::unique_ptr<Control> Create(ControlKind kind) {
   throw RuntimeError(ErrorNumber::kInvalidCall, u"CreateControl");
 }
 
+Font FontOf(const FontSpec& spec) {
+  return {spec.name, spec.size, spec.bold};
+}
+
+template <typename Kind, typename Action>
+void IfA(Control& control, Action action) {
+  if (auto* typed = dynamic_cast<Kind*>(&control)) action(*typed);
+}
+
+// What every class of controls has.
+void Dress(Control& control, const ControlTraits& traits, const Words& words) {
+  control.SetVisible(traits.visible);
+  control.SetEnabled(traits.enabled);
+  control.SetTabOrder(traits.tab);
+  control.SetToolTip(words(traits.tool_tip));
+  control.SetAccessibleName(words(traits.spoken));
+  control.SetFont(FontOf(traits.font));
+  control.SetAlignment(traits.alignment);
+  control.SetForeColor(traits.fore_color);
+  control.SetBackColor(traits.back_color);
+}
+
+std::vector<Text> Each(std::span<const TabSpec> tabs, const char16_t* TabSpec::*text) {
+  std::vector<Text> result;
+  for (const TabSpec& tab : tabs) result.emplace_back(tab.*text);
+  return result;
+}
+
+// What one class has.
+void DressKind(Control& control, const ControlSpec& spec) {
+  const ControlTraits& traits = spec.traits;
+  IfA<Captioned>(control, [&](Captioned& captioned) { captioned.SetCaption(spec.caption); });
+  IfA<Button>(control, [&](Button& button) { button.SetPicture(traits.picture); });
+  IfA<CheckBox>(control, [&](CheckBox& box) { box.Preset(traits.checked); });
+  IfA<OptionButton>(control, [&](OptionButton& option) { option.Preset(traits.checked); });
+  IfA<Image>(control, [&](Image& image) {
+    if (*traits.picture != 0) image.SetPicture({Picture::Source::kResource, traits.picture});
+  });
+  IfA<ListBox>(control, [&](ListBox& list) { list.SetSorted(traits.sorted); });
+  IfA<TextBox>(control, [&](TextBox& box) {
+    box.SetLocked(traits.locked);
+    box.SetMultiLine(traits.multi_line);
+    box.SetText(spec.caption);
+  });
+  IfA<TabControl>(control, [&](TabControl& tabs) {
+    tabs.SetCaptions(Each(traits.tabs, &TabSpec::caption));
+    tabs.SetPictures(Each(traits.tabs, &TabSpec::picture));
+  });
+  IfA<StatusBar>(control, [&](StatusBar& bar) {
+    for (const StatusPanelSpec& panel : traits.panels) bar.AddPanel(panel.key, panel.style);
+  });
+}
+
 }  // namespace
 
-std::unique_ptr<Control> CreateControl(const ControlSpec& spec) {
+Text Words::operator()(StringId id) const {
+  return id == kNoText || id == kEmptyText ? Text() : texts_(id);
+}
+
+std::unique_ptr<Control> CreateControl(const ControlSpec& spec, const Words& words) {
   std::unique_ptr<Control> control = Create(spec.kind);
   control->SetName(spec.name, spec.index);
   control->Move(spec.place);
-  control->SetVisible(spec.visible);
-  if (auto* captioned = dynamic_cast<Captioned*>(control.get()))
-    captioned->SetCaption(spec.caption);
-  if (auto* line = dynamic_cast<Line*>(control.get())) {
-    line->SetPoints(spec.place.left, spec.place.top, spec.place.left + spec.place.width,
-                    spec.place.top + spec.place.height);
-  }
+  Dress(*control, spec.traits, words);
+  DressKind(*control, spec);
+  IfA<Line>(*control, [&](Line& line) {
+    const Place& place = spec.place;
+    line.SetPoints(place.left, place.top, place.left + place.width, place.top + place.height);
+  });
   return control;
 }
 

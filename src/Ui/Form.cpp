@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "Ui/Captioned.h"
 #include "Ui/ControlFactory.h"
+#include "Ui/Line.h"
 
 namespace trovex {
 namespace {
@@ -12,6 +14,19 @@ std::vector<Form*>& Loaded() {
   return forms;
 }
 
+// A line's place is where its ends are.
+Place PlaceOf(const Control& control) {
+  if (control.Kind() != ControlKind::kLine) return control.GetPlace();
+  const auto& line = static_cast<const Line&>(control);
+  return {line.X1(), line.Y1(), line.X2() - line.X1(), line.Y2() - line.Y1()};
+}
+
+void Put(Control& control, const Place& place) {
+  if (control.Kind() != ControlKind::kLine) return control.Move(place);
+  static_cast<Line&>(control).SetPoints(place.left, place.top, place.left + place.width,
+                                        place.top + place.height);
+}
+
 }  // namespace
 
 const std::vector<Form*>& LoadedForms() {
@@ -19,11 +34,12 @@ const std::vector<Form*>& LoadedForms() {
 }
 
 Form::Form(const FormSpec& spec)
-    : Control(ControlKind::kForm), caption_(spec.caption), sizable_(spec.sizable) {
+    : Control(ControlKind::kForm), spec_(spec), caption_(spec.caption), sizable_(spec.sizable) {
   SetName(spec.name, -1);
   SetBackColor(spec.back_color);
   place_ = {0, 0, spec.client_width + frame_.width, spec.client_height + frame_.height};
   SetVisible(false);
+  if (spec.help != kNoText) BindHelpLine(*this, Words(spec)(spec.help));
   for (const ControlSpec& control : spec.controls) Add(control);
 }
 
@@ -35,13 +51,24 @@ Form::~Form() {
 }
 
 void Form::Add(const ControlSpec& spec) {
-  std::unique_ptr<Control> control = CreateControl(spec);
+  const Words words(spec_);
+  const ControlTraits& traits = spec.traits;
+  std::unique_ptr<Control> control = CreateControl(spec, words);
   control->SetParent(this);
-  if (spec.container != nullptr) {
-    control->SetContainer(Find(spec.container));
-    control->SetPage(spec.page);
+  if (traits.container != nullptr) {
+    control->SetContainer(Find(traits.container));
+    control->SetPage(traits.page);
   }
+  if (traits.help != kNoText) BindHelpLine(*control, words(traits.help) + words(traits.help_end));
   controls_.push_back(std::move(control));
+}
+
+// A button takes the focus, so that the highlight follows the mouse.
+void Form::BindHelpLine(Control& control, const Text& text) {
+  control.on_mouse_move = [this, &control, text] {
+    if (control.Kind() == ControlKind::kButton) control.SetFocus();
+    if (on_help_line) on_help_line(text);
+  };
 }
 
 void Form::Adopt(std::unique_ptr<Control> control, const Text& name) {
@@ -64,9 +91,7 @@ Control* Form::Find(TextView name, int index) const {
 }
 
 void Form::SetCaption(TextView caption) {
-  if (caption == caption_) return;
-  caption_ = caption;
-  Notify(Property::kText);
+  Set(caption_, Text(caption), Property::kText);
 }
 
 void Form::SetFrame(Extent frame) {
@@ -82,6 +107,19 @@ void Form::Resize(double width, double height) {
   Raise(on_resize);
 }
 
+void Form::ArrangeControls(int page, const std::function<void(Control&)>& placed) {
+  std::vector<Place> places;
+  for (std::size_t row = 0; row < spec_.controls.size(); ++row) {
+    places.push_back(PlaceOf(*controls_[row]));
+  }
+  Arrange(spec_.controls, places, {ScaleWidth(), ScaleHeight()}, page,
+          [&](const Placement& placement) {
+            Control& control = *controls_[placement.row];
+            Put(control, placement.place);
+            if (placed) placed(control);
+          });
+}
+
 void Form::AlignStatusBars() {
   for (const auto& control : controls_) {
     if (control->Kind() != ControlKind::kStatusBar) continue;
@@ -94,7 +132,17 @@ void Form::Load() {
   view_ = &CurrentView();
   trovex::Loaded().push_back(this);
   view_->Attach(*this);
+  WriteCaptions();
   Raise(on_load);
+}
+
+void Form::WriteCaptions() {
+  const Words words(spec_);
+  if (spec_.caption_text != kNoText) SetCaption(words(spec_.caption_text));
+  for (const ControlSpec& row : spec_.controls) {
+    if (row.traits.caption == kNoText) continue;
+    Get<Captioned>(row.name, row.index).SetCaption(words(row.traits.caption));
+  }
 }
 
 void Form::Show() {

@@ -51,6 +51,10 @@ class Form : public Control {
   // A new outer size, by the program or the user: raises the resize event if it differs.
   void Resize(double width, double height);
 
+  // Puts the controls where the anchors of the table want them in the present client area. `page`
+  // is the one in front of controls with pages; `placed` is called behind each step.
+  void ArrangeControls(int page, const std::function<void(Control&)>& placed = {});
+
   // Life: the load event runs once before the first showing. Show raises the activation; Unload
   // raises the unload event and takes the form from the screen and the list of loaded forms; called
   // again by that event it does so at once.
@@ -74,6 +78,9 @@ class Form : public Control {
   // back to the form, who may have changed a disc meanwhile.
   Event on_drives_changed;
 
+  // The mouse moves over a control that has a help line, or over the form itself.
+  std::function<void(const Text& text)> on_help_line;
+
   Event on_load;
   Event on_activate;
   Event on_resize;
@@ -87,9 +94,13 @@ class Form : public Control {
 
  private:
   void Add(const ControlSpec& spec);
+  // The captions by number are those of the language in which the form is loaded.
+  void WriteCaptions();
+  void BindHelpLine(Control& control, const Text& text);
   // A status bar keeps to the lower edge by itself.
   void AlignStatusBars();
 
+  const FormSpec& spec_;
   std::vector<std::unique_ptr<Control>> controls_;
   std::vector<std::unique_ptr<MenuEntry>> menu_entries_;
   Text caption_;

@@ -3,9 +3,7 @@
 
 #include <vector>
 
-#include "Ui/Alignment.h"
 #include "Ui/Control.h"
-#include "Ui/Font.h"
 
 namespace trovex {
 
@@ -56,9 +54,6 @@ class Grid : public Control {
   void SetSelStartCol(int col);
   void SetSelEndCol(int col);
 
-  const Font& GetFont() const { return font_; }
-  void SetFont(Font font) { font_ = std::move(font); }
-
   // A cell is free if it is empty or its numeric value is exactly -1 or -2.
   static bool IsFree(TextView text);
   // Number of free cells in the column, fixed rows left out: kept up to date, so that whoever
@@ -83,7 +78,6 @@ class Grid : public Control {
   int sel_start_col_ = 0, sel_end_col_ = 0;
   std::vector<Text> cells_;
   std::vector<Column> columns_;
-  Font font_;
   int counted_col_ = -1;  // the column whose free cells are counted, -1 if none is
   int free_cells_ = 0;
 };

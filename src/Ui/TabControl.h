@@ -12,10 +12,12 @@ class TabControl : public Control {
   TabControl() : Control(ControlKind::kTabControl) {}
 
   const std::vector<Text>& Captions() const { return captions_; }
-  void SetCaptions(std::vector<Text> captions) { captions_ = std::move(captions); }
+  void SetCaptions(std::vector<Text> captions) {
+    Set(captions_, std::move(captions), Property::kDesign);
+  }
   // Names of the pictures beside the captions, in the order of the tabs; none where it is empty.
   const std::vector<Text>& Pictures() const { return pictures_; }
-  void SetPictures(std::vector<Text> names) { pictures_ = std::move(names); }
+  void SetPictures(std::vector<Text> names) { Set(pictures_, std::move(names), Property::kDesign); }
 
   int Tab() const { return tab_; }
   // Another tab raises the click with the former tab's number, the one already shown raises

@@ -1,9 +1,7 @@
 // A text field of one or many lines.
 #pragma once
 
-#include "Ui/Alignment.h"
 #include "Ui/Control.h"
-#include "Ui/Font.h"
 
 namespace trovex {
 
@@ -18,15 +16,9 @@ class TextBox : public Control {
   void Append(TextView text);
 
   bool MultiLine() const { return multi_line_; }
-  void SetMultiLine(bool multi_line) { multi_line_ = multi_line; }
+  void SetMultiLine(bool multi_line) { Set(multi_line_, multi_line, Property::kDesign); }
   bool Locked() const { return locked_; }
-  void SetLocked(bool locked) { locked_ = locked; }
-  unsigned ForeColor() const { return fore_color_; }
-  void SetForeColor(unsigned colour) { fore_color_ = colour; }
-  const Font& GetFont() const { return font_; }
-  void SetFont(Font font) { font_ = std::move(font); }
-  Alignment GetAlignment() const { return alignment_; }
-  void SetAlignment(Alignment alignment) { alignment_ = alignment; }
+  void SetLocked(bool locked) { Set(locked_, locked, Property::kDesign); }
 
   Event on_change;
   Event on_enter;       // the Enter key, which is used up
@@ -36,9 +28,6 @@ class TextBox : public Control {
   Text text_;
   bool multi_line_ = false;
   bool locked_ = false;
-  unsigned fore_color_ = 0;
-  Font font_;
-  Alignment alignment_ = Alignment::kLeft;
 };
 
 }  // namespace trovex

@@ -26,6 +26,7 @@ enum class Property {
   kSelection,  // ListIndex, current cell, tab, value of an option
   kCell,       // the text of a grid's current cell
   kMenu,       // entries of a form's window menu
+  kDesign,     // what a window is made with: font, styles, tool tip, place in the order of Tab
   kOther,
 };
 

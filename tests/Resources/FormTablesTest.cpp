@@ -63,8 +63,8 @@ TEST_P(EveryForm, KeepsAControlArrayToOneKindAndNoControlOfTheSameNameBesideIt) 
 TEST_P(EveryForm, PutsAContainerBeforeWhatStandsInIt) {
   std::set<Text> seen;
   for (const ControlSpec& control : form().controls) {
-    if (control.container != nullptr) {
-      EXPECT_TRUE(seen.contains(control.container)) << Label(control);
+    if (control.traits.container != nullptr) {
+      EXPECT_TRUE(seen.contains(control.traits.container)) << Label(control);
     }
     seen.insert(control.name);
   }
@@ -73,8 +73,8 @@ TEST_P(EveryForm, PutsAContainerBeforeWhatStandsInIt) {
 TEST_P(EveryForm, KeepsEveryControlInsideItsParent) {
   for (const ControlSpec& control : form().controls) {
     Extent parent = {form().client_width, form().client_height};
-    if (control.container != nullptr) {
-      const ControlSpec* container = Find(form(), control.container);
+    if (control.traits.container != nullptr) {
+      const ControlSpec* container = Find(form(), control.traits.container);
       ASSERT_NE(container, nullptr) << Label(control);
       parent = {container->place.width, container->place.height};
     }
@@ -88,12 +88,47 @@ TEST_P(EveryForm, KeepsEveryControlInsideItsParent) {
 
 TEST_P(EveryForm, CanBeBuiltAsItsTableSays) {
   for (const ControlSpec& spec : form().controls) {
-    const std::unique_ptr<Control> control = CreateControl(spec);
+    const std::unique_ptr<Control> control = CreateControl(spec, Words(form()));
     EXPECT_EQ(control->Kind(), spec.kind);
     EXPECT_EQ(control->Name(), spec.name);
     EXPECT_EQ(control->Index(), spec.index);
     EXPECT_EQ(control->GetPlace(), spec.place) << Label(spec);
-    EXPECT_EQ(control->Visible(), spec.visible) << Label(spec);
+    EXPECT_EQ(control->Visible(), spec.traits.visible) << Label(spec);
+  }
+}
+
+TEST_P(EveryForm, GivesEachPlaceInTheOrderOfTheTabKeyOnce) {
+  std::set<int> places;
+  for (const ControlSpec& control : form().controls) {
+    if (control.traits.tab >= 0) {
+      EXPECT_TRUE(places.insert(control.traits.tab).second) << Label(control);
+    }
+  }
+}
+
+TEST_P(EveryForm, NamesOnlyTextsThatThereAre) {
+  const Words words(form());
+  for (const ControlSpec& control : form().controls) {
+    const ControlTraits& traits = control.traits;
+    for (const StringId id :
+         {traits.caption, traits.help, traits.help_end, traits.tool_tip, traits.spoken}) {
+      if (id == kNoText || id == kEmptyText) continue;
+      ASSERT_NE(form().texts, nullptr) << Label(control);
+      EXPECT_FALSE(words(id).empty()) << Label(control);
+    }
+  }
+}
+
+TEST_P(EveryForm, AnchorsControlsToOthersOfTheForm) {
+  for (const ControlSpec& control : form().controls) {
+    for (const Anchor& anchor : control.traits.anchors) {
+      if (anchor.step == 0) continue;
+      EXPECT_NE(anchor.edge, Edge::kNone) << Label(control);
+      EXPECT_NE(anchor.to_edge, Edge::kNone) << Label(control);
+      if (anchor.to != nullptr) {
+        EXPECT_NE(Find(form(), anchor.to, anchor.to_index), nullptr) << Label(control);
+      }
+    }
   }
 }
 
@@ -132,7 +167,7 @@ TEST_P(MainWindowTable, PlacesTheControl) {
   EXPECT_EQ(control->kind, expected.kind);
   EXPECT_EQ(control->place, expected.place);
   EXPECT_EQ(control->caption, expected.caption);
-  EXPECT_EQ(control->visible, expected.visible);
+  EXPECT_EQ(control->traits.visible, expected.visible);
 }
 
 constexpr Expected kMainWindow[] = {
@@ -202,12 +237,68 @@ TEST(MainFormTableTest, PutsAShadowBehindEachButtonOfTheToolBar) {
   }
 }
 
+// What a screen reader says where the control itself bears no text.
+TEST(MainFormTableTest, NamesWhatBearsNoText) {
+  const std::set<K> silent = {K::kDriveListBox, K::kDirListBox, K::kTextBox,   K::kListBox,
+                              K::kPictureBox,   K::kTabControl, K::kStatusBar, K::kGrid};
+  for (const ControlSpec& control : kMainFormSpec.controls) {
+    if (silent.contains(control.kind)) {
+      EXPECT_NE(control.traits.spoken, kNoText) << Label(control);
+    }
+  }
+}
+
+// How the main window's controls follow its size, in a client area of 12000 by 9000.
+class MainWindowArrangement : public testing::Test {
+ protected:
+  MainWindowArrangement() {
+    std::vector<Place> places;
+    for (const ControlSpec& control : kMainFormSpec.controls) places.push_back(control.place);
+    Arrange(kMainFormSpec.controls, places, {12000, 9000}, 1, [&](const Placement& placement) {
+      const ControlSpec& control = kMainFormSpec.controls[placement.row];
+      order_.push_back(Label(control));
+      places_[Label(control)] = placement.place;
+    });
+  }
+
+  std::vector<std::string> order_;
+  std::map<std::string, Place> places_;
+};
+
+TEST_F(MainWindowArrangement, TakesTheStepsInTheirOrder) {
+  EXPECT_THAT(order_,
+              testing::ElementsAre("ShapeOmbre(0)", "Quitter", "Line1(0)", "ZoneDesTableaux",
+                                   "TextInfo(6)", "IconeFichier", "TextInfo(5)", "TextInfo(4)",
+                                   "TextInfo(3)", "TextInfo(2)", "TextInfo(1)", "ListFichier",
+                                   "TextInfo(0)", "GridLogiciel(1)"));
+}
+
+TEST_F(MainWindowArrangement, MovesTheLastButtonWithTheRightEdge) {
+  EXPECT_EQ(places_["ShapeOmbre(0)"], (Place{11010, 150, 990, 825}));
+  EXPECT_EQ(places_["Quitter"], (Place{10935, 75, 990, 840}));
+}
+
+TEST_F(MainWindowArrangement, StretchesTheTablesAndTheDetailsToTheRight) {
+  EXPECT_EQ(places_["Line1(0)"], (Place{2775, 990, 9195, 0}));
+  EXPECT_EQ(places_["ZoneDesTableaux"], (Place{30, 2295, 11940, 3165}));
+  EXPECT_EQ(places_["TextInfo(6)"], (Place{11265, 2295, 705, 285}));
+  EXPECT_EQ(places_["IconeFichier"], (Place{11295, 1395, 540, 540}));
+  EXPECT_EQ(places_["TextInfo(5)"], (Place{4575, 2295, 6690, 285}));
+  EXPECT_EQ(places_["TextInfo(1)"], (Place{4575, 1365, 6690, 285}));
+  EXPECT_EQ(places_["GridLogiciel(1)"], (Place{75, 375, 11790, 2745}));
+}
+
+TEST_F(MainWindowArrangement, GivesTheHeightToTheCompanionsAndTheTextPane) {
+  EXPECT_EQ(places_["ListFichier"], (Place{75, 5835, 2415, 2850}));
+  EXPECT_EQ(places_["TextInfo(0)"], (Place{2550, 5850, 9390, 2850}));
+}
+
 TEST(MainFormTableTest, PutsEachTableOnItsTab) {
   for (int table = 0; table < 3; ++table) {
     const ControlSpec* grid = Find(kMainFormSpec, u"GridLogiciel", table);
     ASSERT_NE(grid, nullptr);
-    EXPECT_EQ(TextView(grid->container), u"ZoneDesTableaux");
-    EXPECT_EQ(grid->page, table);
+    EXPECT_EQ(TextView(grid->traits.container), u"ZoneDesTableaux");
+    EXPECT_EQ(grid->traits.page, table);
   }
 }
 

@@ -21,9 +21,9 @@ using K = ControlKind;
 constexpr ControlSpec kControls[] = {
     {K::kButton, u"Oui", -1, {10, 20, 30, 40}, u"Valider"},
     {K::kOptionButton, u"Choix", 0, {0, 0, 100, 20}, u"Un"},
-    {K::kOptionButton, u"Choix", 1, {0, 30, 100, 20}, u"Deux", false},
+    {K::kOptionButton, u"Choix", 1, {0, 30, 100, 20}, u"Deux", {.visible = false}},
     {K::kTabControl, u"Onglets", -1, {0, 100, 500, 500}},
-    {K::kLabel, u"Page", -1, {5, 5, 50, 20}, u"Page", true, u"Onglets", 2},
+    {K::kLabel, u"Page", -1, {5, 5, 50, 20}, u"Page", {.container = u"Onglets", .page = 2}},
     {K::kStatusBar, u"Aide", -1, {0, 900, 1000, 100}},
     {K::kLine, u"Trait", -1, {10, 20, 300, 0}},
 };

@@ -39,7 +39,7 @@ TEST(TextBoxTest, AppendingAddsAtTheEnd) {
 
 TEST(FrameTest, IsMadeFromItsTableWithItsCaption) {
   const ControlSpec spec = {ControlKind::kFrame, u"Zone", -1, {1, 2, 3, 4}, u" Titre "};
-  const std::unique_ptr<Control> control = CreateControl(spec);
+  const std::unique_ptr<Control> control = CreateControl(spec, Words(FormSpec{}));
   auto* frame = dynamic_cast<Frame*>(control.get());
   ASSERT_NE(frame, nullptr);
   EXPECT_EQ(frame->Caption(), u" Titre ");

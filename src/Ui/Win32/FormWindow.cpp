@@ -94,10 +94,27 @@ NativeControl* FormWindow::Of(HWND window) const {
 void FormWindow::Changed(Control& control, Property property) {
   if (&control == &form_) return MirrorForm(property);
   if (NativeControl* window = Of(control)) {
+    if (property == Property::kDesign) return MakeAnew(*window);
     window->Mirror(property);
   } else {
     InvalidateRect(handle_, nullptr, TRUE);  // the form draws it
   }
+}
+
+// What a window is made with cannot be changed in all of them: a new one takes the place of the
+// former, with the focus if that had it.
+void FormWindow::MakeAnew(NativeControl& former) {
+  Control& model = former.Model();
+  const HWND above = GetWindow(former.Handle(), GW_HWNDPREV);
+  const bool focused = GetFocus() == former.Handle();
+  const auto place = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const auto& control) { return control.get() == &former; });
+  *place = CreateNativeControl(model, *this);
+  by_model_[&model] = place->get();
+  SetWindowPos((*place)->Handle(), above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  if (focused) SetFocus((*place)->Handle());
+  RequestFlush();
 }
 
 void FormWindow::MirrorForm(Property property) {

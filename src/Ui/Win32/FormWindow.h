@@ -57,6 +57,7 @@ class FormWindow {
   void CreateWindowAndControls();
   void LowerContainers();
   void MirrorForm(Property property);
+  void MakeAnew(NativeControl& former);
   void PlaceWindow();
   void OnSize(WPARAM kind);
   void OnMove();

@@ -7,8 +7,18 @@ class TabWindowTest : public ViewTest {
  protected:
   TabWindowTest() {
     Make({{ControlKind::kTabControl, u"Onglets", -1, {150, 150, 4500, 3000}},
-          {ControlKind::kLabel, u"Page", 0, {150, 600, 900, 300}, u"un", true, u"Onglets", 0},
-          {ControlKind::kLabel, u"Page", 1, {150, 600, 900, 300}, u"deux", true, u"Onglets", 1}});
+          {ControlKind::kLabel,
+           u"Page",
+           0,
+           {150, 600, 900, 300},
+           u"un",
+           {.container = u"Onglets", .page = 0}},
+          {ControlKind::kLabel,
+           u"Page",
+           1,
+           {150, 600, 900, 300},
+           u"deux",
+           {.container = u"Onglets", .page = 1}}});
     Tabs().SetCaptions({u"Un", u"Deux"});
     Show();
     Tabs().on_tab_click = [this](int former) { formers.push_back(former); };

@@ -1,8 +1,7 @@
-// Pickers and help texts of the dialog of the HTML options.
+// Pickers of the dialog of the HTML options.
 #include "Html/Lib_OptionsHTML.h"
 #include "Html/Lib_RGBForm.h"
 #include "Lib/Dialogs.h"
-#include "Lib/HelpPanel.h"
 #include "Resources/Strings.h"
 
 namespace trovex {
@@ -45,35 +44,6 @@ void OptionsHTML::BindPickers() {
     const Text sChoisie = sGetDialogRGBbyString(sCouleur);
     CouleurRGB.SetText(sChoisie.empty() ? CouleurRGB.Tag() : u"#" + sChoisie);
   };
-}
-
-void OptionsHTML::BindHelp() {
-  const auto tell = [this](Control& control, const Text& sTexte) {
-    TellInPanel(PanelAide, control, sTexte);
-  };
-  tell(*this, {});
-  tell(CheckEntete, R(StringId::kAideEntete));
-  tell(CheckCR, R(StringId::kAideRetours));
-  tell(CheckFin, R(StringId::kAideFin));
-  tell(OptionTag(0), R(StringId::kAideTag) + R(StringId::kRetourChariot));
-  tell(OptionTag(1), R(StringId::kAideTag) + R(StringId::kParagraphe));
-  tell(CheckFrame, R(StringId::kAideFrame));
-  tell(CheckTitre, R(StringId::kAideTitre));
-  tell(CheckFond, R(StringId::kAideFond));
-  tell(CheckBack, R(StringId::kAideFond));
-  tell(CouleurRGB, R(StringId::kAideCouleur));
-  tell(LaCouleur, R(StringId::kAideLaCouleur));
-  tell(ImageBack, R(StringId::kAideTexture));
-  tell(Limage, R(StringId::kAideLimage));
-  tell(CheckImage, R(StringId::kAideImage));
-  tell(CheckSuffixe, R(StringId::kAideImage));
-  tell(ImageDebut, R(StringId::kAideImageDebut));
-  tell(LeFichier, R(StringId::kAideLeFichier));
-  tell(CheckRef, R(StringId::kAideRef));
-  tell(RefHTML, R(StringId::kAideRefHtml));
-  tell(FichierHTML, R(StringId::kAideFichierHtml));
-  tell(Fermer, R(StringId::kAideFermer));
-  tell(PanelAide, R(StringId::kAidePanel));
 }
 
 }  // namespace trovex
