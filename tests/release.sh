@@ -73,7 +73,7 @@ installed_settings() {
     dpkg -i /mnt/trovex-cli_*.deb >/dev/null
     mkdir -p /tmp/settings/trovex && printf "[html]\r\nhtml_titre=Au grenier\r\n" >/tmp/settings/trovex/Trovex.ini
     XDG_CONFIG_HOME=/tmp/settings trovex-cli --quiet --html /tmp/site.htm /media/disc &&
-      grep -q "Au grenier" /tmp/site.htm && test ! -e /usr/bin/Trovex.ini'
+      grep -q "Au grenier" /tmp/site_tableaux.htm && test ! -e /usr/bin/Trovex.ini'
 }
 
 unpack_deb() {
