@@ -1,6 +1,8 @@
 #include "Apps/trovex-cli/Cli.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <optional>
 #include <ostream>
 
 #include "Apps/trovex-cli/Catalogue.h"
@@ -89,11 +91,12 @@ class Session {
     form.Explorer.Press();
     std::optional<Inspection> inspection;
     if (options_.inspect) inspection = InspectRows(form);
-    Print(form, start, inspection ? &*inspection : nullptr, out);
+    const auto unprinted = Print(form, start, inspection ? &*inspection : nullptr, out);
     bool exported = !options_.html || ExportHtml(form, html_);
     exported = ExportTable(form) && exported;
     if (options_.pdf) exported = PrintPdf(form, pdf_) && exported;
     form.Quitter.Press();
+    if (unprinted) throw *unprinted;
     return exported ? kDone : kExportFailed;
   }
 
@@ -107,14 +110,20 @@ class Session {
     return host.NameOf(bare ? *argument + extension : *argument);
   }
 
-  void Print(MainForm& form, const Text& start, const Inspection* inspection, std::ostream& out) {
+  // Why standard output did not take everything, if so; the exports have not to suffer from it.
+  std::optional<RuntimeError> Print(MainForm& form, const Text& start, const Inspection* inspection,
+                                    std::ostream& out) {
+    errno = 0;
     if (options_.json) {
       out << ToJson(form, start, inspection, view_.Boxes());
     } else if (!options_.quiet) {
       PrintTables(form, out);
     }
     out.flush();
-    if (!out) throw RuntimeError(ErrorNumber::kDiskFull, u"trovex-cli");
+    if (out) return std::nullopt;
+    const bool nobody_reads = errno == EPIPE || errno == EBADF;
+    return RuntimeError(nobody_reads ? ErrorNumber::kDeviceIo : ErrorNumber::kDiskFull,
+                        u"trovex-cli");
   }
 
   // Presses the button and answers for the user; false if it could not be written.

@@ -5,6 +5,8 @@
 
 int main(int argc, char** argv) {
   trovex::PrepareConsole();
+  trovex::PrepareStack();
+  trovex::RemoveUnfinishedFilesAtTheEnd();
   return trovex::cli::Run(trovex::CommandLineArguments(argc, argv), std::cout, std::cerr,
                           trovex::ErrorIsTerminal());
 }

@@ -216,14 +216,20 @@ FileHandle PosixPlatform::OpenRead(const Text& name) {
 FileHandle PosixPlatform::OpenWrite(const Text& name) {
   BeforeWriting();
   FileDescriptor file;
+  Unfinished unfinished;
+  const SignalsHeld held;
   const int error = OnPlace(name, [&](const Place& place) {
     const int unusable = FileError(place);
     if (unusable != 0 && unusable != ENOENT) return unusable;
     file = OpenForWriting(place);
-    return file.IsOpen() ? 0 : errno;
+    if (!file.IsOpen()) return errno;
+    unfinished = Unfinished(file, place.host);
+    return 0;
   });
   if (error != 0) Raise(error);
-  return files_.Add(std::move(file));
+  const FileHandle handle = files_.Add(std::move(file));
+  unfinished_.emplace(handle, std::move(unfinished));
+  return handle;
 }
 
 std::size_t PosixPlatform::Read(FileHandle file, void* buffer, std::size_t size) {
@@ -240,6 +246,7 @@ void PosixPlatform::Write(FileHandle file, const void* data, std::size_t size) {
 void PosixPlatform::Close(FileHandle file) {
   FileDescriptor descriptor = files_.Take(file);
   if (!descriptor.IsOpen()) return;
+  const auto unfinished = unfinished_.extract(file);
   if (close(descriptor.Release()) != 0 && errno != EINTR) Raise(errno);
 }
 

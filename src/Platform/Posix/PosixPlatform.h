@@ -15,6 +15,7 @@
 #include "Platform/Posix/Names.h"
 #include "Platform/Posix/RegistryTable.h"
 #include "Platform/Posix/SnapshotTable.h"
+#include "Platform/Posix/Unfinished.h"
 
 namespace trovex {
 
@@ -119,6 +120,7 @@ class PosixPlatform : public Platform {
   posix::Names names_;
   posix::FindTable finds_;
   posix::FileTable files_;
+  std::map<FileHandle, posix::Unfinished> unfinished_;  // those of files_ that are being written
   PosixSetup setup_;
   VersionMemo version_;
   posix::RegistryTable registry_;

@@ -32,9 +32,11 @@ bool Replacement::Open() {
   if (exists && !FollowLink()) return false;
   for (int number = 0; number < kMaxNames; ++number) {
     const std::string name = TemporaryBeside(target_, number);
+    const SignalsHeld held;
     file_ = OpenHostPath(name, O_WRONLY | O_CREAT | O_EXCL);
     if (file_.IsOpen()) {
       temporary_ = name;
+      unfinished_ = Unfinished(file_, name);
       return !exists || fchmod(file_.Get(), status.st_mode & 07777) == 0;
     }
     if (errno != EEXIST) return false;
@@ -65,8 +67,10 @@ bool Replacement::Write(const void* data, std::size_t size) {
 
 bool Replacement::Commit() {
   if (close(file_.Release()) != 0 && errno != EINTR) return false;
+  const SignalsHeld held;
   if (!RenameHost(temporary_, target_)) return false;
   temporary_.clear();
+  unfinished_ = {};
   return true;
 }
 

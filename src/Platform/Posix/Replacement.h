@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Platform/Posix/FileDescriptor.h"
+#include "Platform/Posix/Unfinished.h"
 
 namespace trovex::posix {
 
@@ -28,6 +29,7 @@ class Replacement {
   std::string target_;
   std::string temporary_;
   FileDescriptor file_;
+  Unfinished unfinished_;
 };
 
 }  // namespace trovex::posix

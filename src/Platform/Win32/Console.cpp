@@ -5,6 +5,7 @@
 #include <stdio.h>
 
 #include "Platform/Encoding.h"
+#include "Platform/Win32/Unfinished.h"
 #include "Platform/Win32/Windows.h"
 // shellapi.h needs what Windows.h brings.
 #include <shellapi.h>
@@ -27,6 +28,12 @@ void PrepareConsole() {
   _setmode(_fileno(stdout), _O_BINARY);
   _setmode(_fileno(stderr), _O_BINARY);
   SetConsoleOutputCP(CP_UTF8);
+}
+
+void PrepareStack() {}
+
+void RemoveUnfinishedFilesAtTheEnd() {
+  RemoveUnfinishedAtControlEvents();
 }
 
 bool ErrorIsTerminal() {

@@ -6,6 +6,7 @@
 #include "Platform/Win32/Errors.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
+#include "Platform/Win32/Unfinished.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
@@ -117,8 +118,10 @@ class FileBeside {
       const DWORD code = ::GetLastError();
       if (!file_ && code != ERROR_FILE_EXISTS) RaiseFor(name_, code);
     }
+    ListUnfinished(file_.get(), name_);
   }
   ~FileBeside() {
+    StrikeUnfinished(file_.get());
     file_.reset();
     if (!name_.empty()) DeleteFileW(Wide(name_));
   }
@@ -128,6 +131,7 @@ class FileBeside {
   HANDLE Get() const { return file_.get(); }
 
   void PutInPlace() {
+    StrikeUnfinished(file_.get());
     CloseNative(std::move(file_));
     if (!MoveFileExW(Wide(name_), Wide(place_), MOVEFILE_REPLACE_EXISTING)) {
       RaiseFor(place_, ::GetLastError());
@@ -224,6 +228,7 @@ FileHandle Win32Platform::OpenWrite(const Text& name) {
   const Text verbatim = Writable(name);
   OwnedFile file = OpenDiskFile(verbatim, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   if (!SetEndOfFile(file.get())) RaiseFor(verbatim, ::GetLastError());
+  ListUnfinished(file.get(), verbatim);
   return Keep(std::move(file));
 }
 
@@ -240,6 +245,7 @@ void Win32Platform::Close(FileHandle file) {
   if (found == files_.end()) return;
   OwnedFile native = std::move(found->second);
   files_.erase(found);
+  StrikeUnfinished(native.get());
   CloseNative(std::move(native));
 }
 

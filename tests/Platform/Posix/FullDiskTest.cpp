@@ -1,32 +1,11 @@
 // Writes that fail half-way, as on a full disk.
-#include <signal.h>
-#include <sys/resource.h>
-
 #include "Platform/Posix/PosixFixture.h"
+#include "support/Posix/FullDisk.h"
 
 namespace trovex::test {
 namespace {
 
 using testing::ElementsAre;
-
-// No file of this process grows beyond `size` bytes for the life of the object; what does not fit
-// is refused as by a full disk.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t size) : former_action_(signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &former_);
-    const rlimit limit = {size, former_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &former_);
-    signal(SIGXFSZ, former_action_);
-  }
-
- private:
-  rlimit former_ = {};
-  void (*former_action_)(int);
-};
 
 class FullDisk : public PosixFixture {};
 
