@@ -1,5 +1,5 @@
 // Bitmap files.
-#include "Export/BitmapFile.h"
+#include "Paper/BitmapFile.h"
 #include "support/Target.h"
 
 namespace trovex::fuzz {

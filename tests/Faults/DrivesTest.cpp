@@ -1,8 +1,8 @@
 // A drive that is taken out, and room that is used up, on whatever system: what happens at each
 // single operation that could be the first to notice.
-#include "Export/LIB_OBJECT_GRID.h"
-#include "Export/Pdf.h"
+#include "Export/GridExport.h"
 #include "Lib/LIB_INI.h"
+#include "Paper/SavePdf.h"
 #include "Screen/ScreenTest.h"
 
 namespace trovex::test {
