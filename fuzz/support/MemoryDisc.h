@@ -16,7 +16,7 @@ namespace internal {
 struct Machine {
   static PosixSetup Setup() {
     PosixSetup setup;
-    setup.drives = {{u'D', "/"}};
+    setup.drives = {{u'D', "/", DriveType::kFixed, {}}};
     return setup;
   }
   PosixPlatform machine{Setup()};
