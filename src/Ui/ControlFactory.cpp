@@ -113,7 +113,7 @@ void DressKind(Control& control, const ControlSpec& spec) {
   IfA<TextBox>(control, [&](TextBox& box) {
     box.SetLocked(traits.locked);
     box.SetMultiLine(traits.multi_line);
-    box.SetText(spec.caption);
+    box.SetText(traits.text);
   });
   IfA<TabControl>(control, [&](TabControl& tabs) {
     tabs.SetCaptions(Each(traits.tabs, &TabSpec::caption));

@@ -60,6 +60,7 @@ struct ControlTraits {
   unsigned fore_color = 0;
   unsigned back_color = 0xFFFFFF;
 
+  const char16_t* text = u"";  // of a text box
   bool checked = false;
   bool locked = false;
   bool multi_line = false;
@@ -76,7 +77,7 @@ struct ControlSpec {
   const char16_t* name;
   int index;  // in its control array, -1 outside one
   Place place;
-  const char16_t* caption = u"";  // a text box's text
+  const char16_t* caption = u"";
   ControlTraits traits = {};
 };
 
