@@ -3,6 +3,7 @@
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
+#include "Lib/SettingsFile.h"
 #include "Resources/Strings.h"
 
 namespace trovex {
@@ -23,15 +24,21 @@ bool OnCdRom(const Text& sFichier) {
   return iTypeLecteur(sFichier.substr(0, 2)) == DriveType::kCdRom;
 }
 
-// The common way of both writers; `sSuite` is what the failure's report says behind the key.
+// The common way of both writers. The file's name is a copy: it may be the settings file's, which
+// can become another one meanwhile. `sSuite` is what the failure's report says behind the key.
 void Put(const Text& sRoutine, const Text& sSection, const Text& sCle, const Text& sValeur,
-         const Text& sFichier, const Text& sSuite) {
-  if (OnCdRom(sFichier)) return;
+         Text sFichier, const Text& sSuite) {
+  if (OnCdRom(sFichier) || bReglagesSurCdRom(sFichier)) return;
   if (bFichierExiste(sFichier) && LengthOf(sFichier) >= kGrosFichier) {
     EcritIniGrosFichier(sSection, sCle, sValeur, sFichier);
     return;
   }
-  if (CurrentPlatform().WritePrivateProfileString(sSection, sCle, sValeur, sFichier)) return;
+  Platform& platform = CurrentPlatform();
+  if (platform.WritePrivateProfileString(sSection, sCle, sValeur, sFichier)) return;
+  if (PasseAuFichierUtilisateur(sFichier)) {
+    if (platform.WritePrivateProfileString(sSection, sCle, sValeur, sFichierIni)) return;
+    RevientAuFichierDuProgramme();
+  }
   MessageErreur(sRoutine + u" : " + ResString(StringId::kErreurEcriture) + sFichier + Text(kCrLf) +
                 ResString(StringId::kItem) + sCle + sSuite);
 }

@@ -96,6 +96,11 @@ class FilePort {
   virtual void CopyFile(const Text& source, const Text& destination) = 0;
   // Raises kFileNotFound, kPermissionDenied or kPathFileAccess.
   virtual void DeleteFile(const Text& name) = 0;
+  // Gives the file `source` the name `place` in its directory, in place of a file that bears it, in
+  // one step. Raises as OpenWrite; both files then stay as they were.
+  virtual void PutInPlace(const Text& source, const Text& place) = 0;
+  // Makes one level of a directory. True if there is a directory of that name afterwards.
+  virtual bool MakeDirectory(const Text& name) = 0;
 
   // --- Version records ----------------------------------------------------------------------
 
@@ -127,6 +132,9 @@ class FilePort {
   virtual std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) = 0;
   // Directory of the running program, without final backslash but for a root.
   virtual Text GetProgramDirectory() = 0;
+  // Directory in which programs keep what belongs to the user, without final backslash; empty where
+  // there is none, as on Posix.
+  virtual Text GetApplicationDataDirectory() = 0;
 
   // The current directory, "X:\..." without final backslash but for a root. Each drive has one of
   // its own; ChangeDirectory sets that of the drive that its argument names and leaves the current

@@ -35,6 +35,10 @@ class ForwardingFiles : public virtual FilePort {
     target_.CopyFile(source, destination);
   }
   void DeleteFile(const Text& name) override { target_.DeleteFile(name); }
+  void PutInPlace(const Text& source, const Text& place) override {
+    target_.PutInPlace(source, place);
+  }
+  bool MakeDirectory(const Text& name) override { return target_.MakeDirectory(name); }
   std::uint32_t GetFileVersionInfoSize(const Text& name) override {
     return target_.GetFileVersionInfoSize(name);
   }
@@ -51,6 +55,7 @@ class ForwardingFiles : public virtual FilePort {
     return target_.GetSystemDirectory(buffer, size);
   }
   Text GetProgramDirectory() override { return target_.GetProgramDirectory(); }
+  Text GetApplicationDataDirectory() override { return target_.GetApplicationDataDirectory(); }
   Text GetCurrentDirectory() override { return target_.GetCurrentDirectory(); }
   void ChangeDirectory(const Text& directory) override { target_.ChangeDirectory(directory); }
   void ChangeDrive(const Text& drive) override { target_.ChangeDrive(drive); }

@@ -20,6 +20,7 @@ class ForwardingShell : public virtual ShellPort {
   void StartProgram(const Text& command_line, int mode) override {
     target_.StartProgram(command_line, mode);
   }
+  bool HasHelpEngine() override { return target_.HasHelpEngine(); }
   int ExtractIconEx(const Text& file, int index) override {
     return target_.ExtractIconEx(file, index);
   }

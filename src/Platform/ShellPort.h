@@ -22,6 +22,10 @@ class ShellPort {
   // kFileNotFound or kInvalidCall; Posix, where nothing is ever started, kPermissionDenied.
   virtual void StartProgram(const Text& command_line, int mode) = 0;
 
+  // True where the system shows help files: Windows before Vista, Wine, and Posix, where the view
+  // answers for it.
+  virtual bool HasHelpEngine() = 0;
+
   // Number of large icons that extracting one at `index` yields, 0 or 1. Posix looks into icon
   // files and into NE and PE executables, where any icon group will do.
   virtual int ExtractIconEx(const Text& file, int index) = 0;

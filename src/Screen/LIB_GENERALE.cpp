@@ -9,6 +9,7 @@
 #include "Lib/LIB_SHELL.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
+#include "Lib/SettingsFile.h"
 
 namespace trovex {
 namespace {
@@ -48,7 +49,7 @@ Text sFichierTemp;
 
 void InitApplication() {
   CurrentView().SetPointer(Pointer::kHourglass);
-  sFichierIni = sRepertoireAppli() + u"Trovex.ini";
+  ChoisitFichierIni();
   InitAssociations();
   ChooseTemporaryFile();
   Lib_Form();

@@ -48,6 +48,25 @@ bool FakeShell::IsThere(const Text& name) const {
   });
 }
 
+bool FakeShell::IsProtected(const Text& name) const {
+  return write_protected.contains(ToUpper(name.substr(0, name.find_last_of(u'\\'))));
+}
+
+FileHandle FakeShell::OpenWrite(const Text& name) {
+  if (IsProtected(name)) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  return ForwardingPlatform::OpenWrite(name);
+}
+
+bool FakeShell::MakeDirectory(const Text& name) {
+  return !IsProtected(name) && ForwardingPlatform::MakeDirectory(name);
+}
+
+bool FakeShell::WritePrivateProfileString(const Text& section, const Text& key, const Text& value,
+                                          const Text& file) {
+  return !IsProtected(file) &&
+         ForwardingPlatform::WritePrivateProfileString(section, key, value, file);
+}
+
 FindHandle FakeShell::FindFirstFile(const Text& pattern, FindData& data) {
   data = {};
   return IsThere(pattern) ? ForwardingPlatform::FindFirstFile(pattern, data) : FindHandle::kInvalid;

@@ -45,6 +45,9 @@ class FakeShell : public ForwardingPlatform {
   std::map<Text, DriveType> types;  // of drives; fixed if not named
   Text windows = u"D:\\WINDOWS", system = u"D:\\WINDOWS\\SYSTEM";
   Text program_directory = u"D:\\PROG";
+  Text application_data;  // none
+  bool help_engine = true;
+  std::set<Text> write_protected;  // directories in which nothing can be written
   std::map<Text, Text> environment;
   std::deque<double> random;  // 0 when used up
   std::set<Text> gone;        // directories that have vanished with all they held
@@ -76,6 +79,12 @@ class FakeShell : public ForwardingPlatform {
   std::uint32_t GetWindowsDirectory(Text& buffer, std::uint32_t size) override;
   std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) override;
   Text GetProgramDirectory() override { return program_directory; }
+  Text GetApplicationDataDirectory() override { return application_data; }
+  bool HasHelpEngine() override { return help_engine; }
+  FileHandle OpenWrite(const Text& name) override;
+  bool MakeDirectory(const Text& name) override;
+  bool WritePrivateProfileString(const Text& section, const Text& key, const Text& value,
+                                 const Text& file) override;
   Text GetCurrentDirectory() override { return directories_[current_]; }
   void ChangeDirectory(const Text& directory) override;
   void ChangeDrive(const Text& drive) override;
@@ -99,6 +108,7 @@ class FakeShell : public ForwardingPlatform {
   using KeyName = std::pair<RegistryRoot, Text>;
 
   bool IsThere(const Text& name) const;
+  bool IsProtected(const Text& name) const;
   RegistryKey Open(const KeyName& name);
 
   std::map<KeyName, std::map<Text, RegistryValue>> registry_;

@@ -77,6 +77,11 @@ bool UnlinkHost(const std::string& path) {
   return !at.Broken() && unlinkat(at.Directory(), at.Rest(), 0) == 0;
 }
 
+bool MakeHostDirectory(const std::string& path) {
+  const HostPath at(path);
+  return !at.Broken() && mkdirat(at.Directory(), at.Rest(), 0777) == 0;
+}
+
 bool RenameHost(const std::string& from, const std::string& to) {
   const HostPath source(from), target(to);
   if (source.Broken() || target.Broken()) return false;

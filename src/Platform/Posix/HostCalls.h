@@ -22,6 +22,7 @@ bool StatHostLink(const std::string& path, struct stat& status);  // of a link: 
 // asks: it is the program's read-only file.
 bool MayWriteHost(const std::string& path, const struct stat& status);
 bool UnlinkHost(const std::string& path);
+bool MakeHostDirectory(const std::string& path);
 bool RenameHost(const std::string& from, const std::string& to);
 
 // Opens a regular file for reading; anything else is refused (EISDIR, ENXIO) without being opened,

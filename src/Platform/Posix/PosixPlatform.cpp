@@ -283,6 +283,36 @@ void PosixPlatform::DeleteFile(const Text& name) {
   if (error != 0) Raise(error == ENOTDIR ? ENOENT : error);
 }
 
+void PosixPlatform::PutInPlace(const Text& source, const Text& place) {
+  BeforeWriting();
+  std::string from;
+  int error = OnPlace(source, [&](const Place& found) {
+    from = found.host;
+    return FileError(found);
+  });
+  if (error != 0) Raise(error);
+  error = OnPlace(place, [&](const Place& found) {
+    const int unusable = FileError(found);
+    if (unusable != 0 && unusable != ENOENT) return unusable;
+    struct stat status;
+    if (unusable == 0 && StatHost(found.host, status) && !MayWriteHost(found.host, status)) {
+      return EACCES;
+    }
+    return RenameHost(from, found.host) ? 0 : errno;
+  });
+  if (error != 0) Raise(error);
+}
+
+bool PosixPlatform::MakeDirectory(const Text& name) {
+  BeforeWriting();
+  const int error = OnPlace(name, [](const Place& place) {
+    if (place.kind == EntryKind::kDirectory) return 0;
+    if (place.kind != EntryKind::kMissing) return ENOTDIR;
+    return MakeHostDirectory(place.host) ? 0 : errno;
+  });
+  return error == 0;
+}
+
 // --- Version records and profile files
 // ------------------------------------------------------------
 
@@ -368,6 +398,10 @@ std::uint32_t PosixPlatform::GetWindowsDirectory(Text& buffer, std::uint32_t siz
 
 std::uint32_t PosixPlatform::GetSystemDirectory(Text& buffer, std::uint32_t size) {
   return FillBuffer(setup_.system_directory, buffer, size);
+}
+
+Text PosixPlatform::GetApplicationDataDirectory() {
+  return {};
 }
 
 Text PosixPlatform::GetProgramDirectory() {

@@ -21,6 +21,10 @@ void PosixPlatform::StartProgram(const Text&, int) {
   throw RuntimeError(ErrorNumber::kPermissionDenied);
 }
 
+bool PosixPlatform::HasHelpEngine() {
+  return true;
+}
+
 long PosixPlatform::RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) {
   return registry_.Create(root, name, key);
 }

@@ -259,6 +259,19 @@ void Win32Platform::CopyFile(const Text& source, const Text& destination) {
   copy.PutInPlace();
 }
 
+void Win32Platform::PutInPlace(const Text& source, const Text& place) {
+  const Text from = Openable(source), to = Writable(place);
+  if (!MoveFileExW(Wide(from), Wide(to), MOVEFILE_REPLACE_EXISTING)) {
+    RaiseFor(to, ::GetLastError());
+  }
+}
+
+bool Win32Platform::MakeDirectory(const Text& name) {
+  const Text verbatim = VerbatimName(name);
+  if (verbatim.empty()) return false;
+  return CreateDirectoryW(Wide(verbatim), nullptr) || IsDirectory(verbatim);
+}
+
 void Win32Platform::DeleteFile(const Text& name) {
   const Text verbatim = Openable(name);
   if (DeleteFileW(Wide(verbatim))) return;

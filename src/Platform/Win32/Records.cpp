@@ -1,6 +1,7 @@
 // Version records and profile files.
 #include <algorithm>
 
+#include "Platform/Records/ProfileFile.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Win32Platform.h"
@@ -31,6 +32,48 @@ std::string RecordOf(const Text& name) {
   return block;
 }
 
+// The system's profile functions know no name of more than 259 characters: such a file is read
+// here. Nothing for one that is missing.
+std::string ProfileBytes(Platform& platform, const Text& file) {
+  std::string bytes(records::kMaxProfile, '\0');
+  try {
+    const FileHandle handle = platform.OpenRead(file);
+    std::size_t count = 0;
+    IgnoringErrors([&] { count = platform.Read(handle, bytes.data(), bytes.size()); });
+    platform.Close(handle);
+    bytes.resize(count);
+    return bytes;
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
+// A longer one than is read would be cut short, so it is not written.
+bool WriteLongNamed(Platform& platform, const Text& section, const Text& key, const Text& value,
+                    const Text& file) {
+  const std::string former = ProfileBytes(platform, file);
+  if (former.size() == records::kMaxProfile) return false;
+  const std::string bytes = records::WithProfileValue(former, section, key, value);
+  const Text beside = file + u".~Trvx";
+  try {
+    const FileHandle handle = platform.OpenWrite(beside);
+    bool written = false;
+    IgnoringErrors([&] {
+      platform.Write(handle, bytes.data(), bytes.size());
+      written = true;
+    });
+    platform.Close(handle);
+    if (written) {
+      platform.PutInPlace(beside, file);
+      return true;
+    }
+  } catch (const RuntimeError&) {
+    // The file is as it was; what stands beside it goes.
+  }
+  IgnoringErrors([&] { platform.DeleteFile(beside); });
+  return false;
+}
+
 }  // namespace
 
 std::uint32_t Win32Platform::GetFileVersionInfoSize(const Text& name) {
@@ -47,6 +90,9 @@ bool Win32Platform::GetFileVersionInfo(const Text& name, std::uint32_t length, s
 std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const Text& key,
                                                      const Text& fallback, Text& buffer,
                                                      std::uint32_t size, const Text& file) {
+  if (file.size() >= MAX_PATH) {
+    return records::ProfileAnswer(ProfileBytes(*this, file), section, key, fallback, buffer, size);
+  }
   const Unredirected unredirected;
   buffer.assign(size, u'\0');
   const DWORD length = GetPrivateProfileStringW(Wide(section), Wide(key), Wide(fallback),
@@ -57,6 +103,7 @@ std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const 
 
 bool Win32Platform::WritePrivateProfileString(const Text& section, const Text& key,
                                               const Text& value, const Text& file) {
+  if (file.size() >= MAX_PATH) return WriteLongNamed(*this, section, key, value, file);
   return WritePrivateProfileStringW(Wide(section), Wide(key), Wide(value), Wide(file)) != 0;
 }
 

@@ -4,6 +4,8 @@
 #include "Platform/Win32/CommandLine.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
+#include "Platform/Win32/ShortName.h"
+#include "Platform/Win32/SystemCalls.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
@@ -103,10 +105,20 @@ void Win32Platform::StartProgram(const Text& command_line, int mode) {
   ::CloseHandle(process.hProcess);
 }
 
+// Windows gave the engine up with Vista.
+bool Win32Platform::HasHelpEngine() {
+  if (SystemCall<const char*()>(L"ntdll", "wine_get_version") != nullptr) return true;
+  constexpr DWORD kVista = 6;
+  OsVersionInfo info;
+  info.dwOSVersionInfoSize = kOsVersionInfoSize;
+  return GetVersionEx(info) && info.dwMajorVersion < kVista;
+}
+
 int Win32Platform::ExtractIconEx(const Text& file, int index) {
   const Unredirected unredirected;
   HICON large = nullptr;
-  ExtractIconExW(Wide(file), index, &large, nullptr, 1);
+  const ShortName name(file);
+  ExtractIconExW(Wide(name.Get()), index, &large, nullptr, 1);
   if (large == nullptr) return 0;
   DestroyIcon(large);
   return 1;

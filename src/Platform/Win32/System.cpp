@@ -8,6 +8,9 @@
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 
+// Behind Windows.h, whose types it needs.
+#include <shlobj.h>
+
 namespace trovex {
 namespace {
 
@@ -105,6 +108,12 @@ Text Win32Platform::GetProgramDirectory() {
   }
   name.resize(length);
   return WithoutFinalBackslash(name.substr(0, name.find_last_of(u'\\') + 1));
+}
+
+Text Win32Platform::GetApplicationDataDirectory() {
+  wchar_t directory[MAX_PATH] = {};
+  if (SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, 0, directory) != S_OK) return {};
+  return WithoutFinalBackslash(FromWide(directory));
 }
 
 Text Win32Platform::GetCurrentDirectory() {

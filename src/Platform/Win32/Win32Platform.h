@@ -28,6 +28,8 @@ class Win32Platform : public Platform {
   void Close(FileHandle file) override;
   void CopyFile(const Text& source, const Text& destination) override;
   void DeleteFile(const Text& name) override;
+  void PutInPlace(const Text& source, const Text& place) override;
+  bool MakeDirectory(const Text& name) override;
   std::uint32_t GetFileVersionInfoSize(const Text& name) override;
   bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) override;
   std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
@@ -41,6 +43,7 @@ class Win32Platform : public Platform {
   std::uint32_t GetWindowsDirectory(Text& buffer, std::uint32_t size) override;
   std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) override;
   Text GetProgramDirectory() override;
+  Text GetApplicationDataDirectory() override;
   Text GetCurrentDirectory() override;
   void ChangeDirectory(const Text& directory) override;
   void ChangeDrive(const Text& drive) override;
@@ -49,6 +52,7 @@ class Win32Platform : public Platform {
                    const Text& directory, int show) override;
   int FindExecutable(const Text& file, const Text& directory, Text& buffer) override;
   void StartProgram(const Text& command_line, int mode) override;
+  bool HasHelpEngine() override;
   int ExtractIconEx(const Text& file, int index) override;
   long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override;
   long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,

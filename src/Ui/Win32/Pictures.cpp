@@ -2,6 +2,7 @@
 
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
+#include "Platform/Win32/ShortName.h"
 
 namespace trovex::win32 {
 namespace {
@@ -13,14 +14,17 @@ HICON FromResource(const Text& name, int pixels) {
 
 HICON FromFile(const Text& name, int pixels) {
   const Unredirected unredirected;
-  const HANDLE icon = LoadImageW(nullptr, Wide(name), IMAGE_ICON, pixels, pixels, LR_LOADFROMFILE);
+  const ShortName file(name);
+  const HANDLE icon =
+      LoadImageW(nullptr, Wide(file.Get()), IMAGE_ICON, pixels, pixels, LR_LOADFROMFILE);
   return static_cast<HICON>(icon);
 }
 
 HICON FromInside(const Text& name, int index) {
   const Unredirected unredirected;
   HICON large = nullptr;
-  ExtractIconExW(Wide(name), index, &large, nullptr, 1);
+  const ShortName file(name);
+  ExtractIconExW(Wide(file.Get()), index, &large, nullptr, 1);
   return large;
 }
 

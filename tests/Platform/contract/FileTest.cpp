@@ -261,6 +261,39 @@ TEST_F(FileContract, WhatCannotBeDeletedRaises) {
   EXPECT_TRUE(Exists(u"D:\\JEUX"));
 }
 
+// --- Putting a file in another's place, directories -------------------------------------------
+
+TEST_F(FileContract, AFileTakesTheNameOfAnotherOne) {
+  disc_.File("A.TXT", "ancien");
+  disc_.File("NEUF.TMP", "nouveau");
+  platform_.PutInPlace(u"D:\\NEUF.TMP", u"D:\\a.txt");
+  EXPECT_EQ(Contents(u"D:\\A.TXT"), "nouveau");
+  EXPECT_EQ(FindAll(u"D:\\*").size(), 1u);
+  platform_.PutInPlace(u"D:\\A.TXT", u"D:\\B.TXT");
+  EXPECT_EQ(Contents(u"D:\\B.TXT"), "nouveau");
+  EXPECT_FALSE(Exists(u"D:\\A.TXT"));
+}
+
+TEST_F(FileContract, WhatCannotBePutInPlaceStays) {
+  disc_.Directory("JEUX");
+  disc_.File("NEUF.TMP", "nouveau");
+  EXPECT_EQ(ErrorOf([&] { platform_.PutInPlace(u"D:\\NEUF.TMP", u"D:\\JEUX"); }),
+            ErrorNumber::kPathFileAccess);
+  EXPECT_EQ(ErrorOf([&] { platform_.PutInPlace(u"D:\\RIEN.TMP", u"D:\\A.TXT"); }),
+            ErrorNumber::kFileNotFound);
+  EXPECT_EQ(Contents(u"D:\\NEUF.TMP"), "nouveau");
+}
+
+TEST_F(FileContract, ADirectoryIsMadeOnce) {
+  disc_.File("A.TXT", "x");
+  EXPECT_TRUE(platform_.MakeDirectory(u"D:\\Neuf"));
+  EXPECT_EQ(Status(u"D:\\NEUF").attributes & kAttributeDirectory, kAttributeDirectory);
+  EXPECT_TRUE(platform_.MakeDirectory(u"D:\\Neuf"));
+  EXPECT_FALSE(platform_.MakeDirectory(u"D:\\A.TXT"));
+  EXPECT_FALSE(platform_.MakeDirectory(u"D:\\NULLEPART\\NEUF"));
+  EXPECT_FALSE(platform_.MakeDirectory(u""));
+}
+
 // --- Read-only files --------------------------------------------------------------------------
 
 TEST_F(FileContract, AReadOnlyFileIsNeitherWrittenReplacedNorDeleted) {

@@ -262,5 +262,24 @@ TEST_F(ProfileContract, WhatCannotBeWrittenFails) {
   EXPECT_THAT(FindAll(u"D:\\*"), testing::ElementsAre(u"DOSSIER.INI"));
 }
 
+// --- Names of any length ------------------------------------------------------------------------
+
+TEST_F(ProfileContract, NamesLongerThan260CharactersAreReadAndWritten) {
+  std::string folder;
+  for (int level = 0; level < 12; ++level) folder += "Un dossier au nom tres long/";
+  Profile("");
+  disc_.File(folder + "SETUP.INI", "[Startup]\r\nAppName=Dames\r\n[Autre]\r\nx=1\r\n");
+  file_ = u"D:\\" + Text(folder.begin(), folder.end()) + u"SETUP.INI";
+  std::replace(file_.begin(), file_.end(), u'/', u'\\');
+  ASSERT_GT(file_.size(), 300u);
+  EXPECT_EQ(Read(u"STARTUP", u"appname"), u"Dames");
+  EXPECT_EQ(Read(u"Startup", u"Titre"), u"(rien)");
+  EXPECT_EQ(Written(u"Startup", u"AppName", u"Cartes"),
+            "[Startup]\r\nAppName=Cartes\r\n[Autre]\r\nx=1\r\n");
+  EXPECT_EQ(Read(u"Startup", u"AppName"), u"Cartes");
+  file_.insert(file_.size() - 4, u"2");
+  EXPECT_EQ(Read(u"Startup", u"AppName"), u"(rien)");
+}
+
 }  // namespace
 }  // namespace trovex::test
