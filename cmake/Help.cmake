@@ -1,4 +1,5 @@
-# The help file TROVEX.HLP beside the programs, made of src/Aide by trovex-aide.
+# The help file TROVEX.HLP beside the programs, and the help's pages inside them, made of src/Aide
+# by trovex-aide.
 #
 # That program runs while building. A native build uses its own; a build for another system has one
 # compiled here, with the compiler of this system.
@@ -27,3 +28,11 @@ add_custom_command(OUTPUT ${help_file}
   DEPENDS ${help_source} ${help_compiler}
   COMMENT "Making TROVEX.HLP" VERBATIM)
 add_custom_target(trovex-help ALL DEPENDS ${help_file})
+
+# Its pages as a source, which the programs carry.
+set(help_pages ${CMAKE_CURRENT_BINARY_DIR}/generated/Resources/HelpPages.cpp)
+file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/generated/Resources)
+add_custom_command(OUTPUT ${help_pages}
+  COMMAND ${help_compiler} ${PROJECT_SOURCE_DIR}/src/Aide --cpp ${help_pages}
+  DEPENDS ${help_source} ${help_compiler}
+  COMMENT "Making the source of the help's pages" VERBATIM)

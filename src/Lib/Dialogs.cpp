@@ -1,5 +1,6 @@
 #include "Lib/Dialogs.h"
 
+#include "Lib/HelpBrowser.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
@@ -92,6 +93,11 @@ void ChercheFichierDAide() {
 }
 
 void AfficheAide(const Text& sSujet, const Text& sFichierAide) {
+  if (!CurrentPlatform().HasHelpEngine()) {
+    if (sFichierAide.empty()) return AffichePageAide(sSujet);
+    return MessageInfo(ResString(StringId::kAideImpossible) + sFichierAide + Text(kCrLf) +
+                       Text(kCrLf) + ResString(StringId::kAideSansMoteur));
+  }
   Text sFichier = sFichierAide;
   if (sFichier.empty()) {
     ChercheFichierDAide();

@@ -26,7 +26,8 @@ Text sChoixFichier(const Text& sTitre = {}, const Text& sFiltre = {}, const Text
                    const Text& sExtension = {});
 
 // Opens the help viewer, at a topic if one is named; without a file on the program's own. Says so
-// where that is missing.
+// where that is missing. On a system without a help engine the program's own help opens in the
+// browser, its file there or not, and for any other file a box says why it cannot be shown.
 void AfficheAide(const Text& sSujet, const Text& sFichierAide = {});
 
 // The program's help file: its name, and the search for it at start-up, which goes to the name's

@@ -66,6 +66,8 @@ enum class StringId : int {
   kSelectionnezFichier = 245,
   kAideImpossible = 246,
   kAideInaccessible = 247,
+  kAideSansMoteur = 248,
+  kAideNonEcrite = 249,
   kAidePanel = 255,
   kShellFichier = 260,
   kShellChemin = 261,

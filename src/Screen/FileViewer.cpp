@@ -86,7 +86,10 @@ void ListFichier_Click(MainForm& form) {
   BusyOff();
 }
 
+// The system would answer for a help file that it cannot show with a page of its own.
 void ListFichier_DblClick(MainForm& form) {
+  const bool help = bEstExtension(form.ListFichier.GetText(), u".hlp");
+  if (help && !CurrentPlatform().HasHelpEngine()) return AfficheAide({}, ChosenFile(form));
   iLanceParAssociation(ChosenFile(form), true);
 }
 

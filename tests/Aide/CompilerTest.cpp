@@ -87,7 +87,7 @@ TEST_F(CompilerTest, AWrongCommandLineTellsTheRightOne) {
   for (const std::vector<std::string>& arguments :
        {std::vector<std::string>{"--hlp"}, {"a", "b"}, {"--foo", "a"}, {"--hlp", "x"}}) {
     EXPECT_EQ(Compile(arguments), kWrongCommandLine);
-    EXPECT_EQ(err_, "usage: trovex-aide SOURCE-FOLDER [--hlp FILE] [--html FOLDER]\n");
+    EXPECT_EQ(err_, "usage: trovex-aide SOURCE-FOLDER [--hlp FILE] [--html FOLDER] [--cpp FILE]\n");
   }
 }
 

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "AideTest.h"
+#include "Resources/HelpPages.h"
 
 namespace trovex::test {
 namespace {
@@ -22,6 +23,23 @@ std::map<std::string, std::string> FilesIn(const std::filesystem::path& folder) 
 TEST(PagesTest, TheCommittedPagesAreWhatTheSourceGives) {
   EXPECT_TRUE(FilesIn(TROVEX_SOURCES "/docs/aide") == BuildPages(ProgramBook()))
       << "write them again: trovex-aide src/Aide --html docs/aide";
+}
+
+TEST(PagesTest, TheProgramsCarryTheSamePagesAndTheKeywordsThatLeadToThem) {
+  std::map<std::string, std::string> carried;
+  for (const HelpPage& page : HelpPages()) carried[std::string(page.name)] = page.bytes;
+  EXPECT_TRUE(carried == BuildPages(ProgramBook()));
+  std::vector<std::pair<Text, std::string>> expected, keywords;
+  const Book book = ProgramBook();
+  for (const Topic& topic : book.topics) {
+    for (const Text& keyword : topic.keywords) {
+      expected.emplace_back(keyword, PageOf(book, topic.name));
+    }
+  }
+  for (const HelpKeyword& keyword : HelpKeywords()) {
+    keywords.emplace_back(keyword.text, keyword.page);
+  }
+  EXPECT_EQ(keywords, expected);
 }
 
 TEST(PagesTest, APageATopicAndTheKeywords) {

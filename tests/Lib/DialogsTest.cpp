@@ -1,12 +1,19 @@
 #include "Lib/Dialogs.h"
 
+#include "Lib/HelpBrowser.h"
 #include "Lib/Lib_SelectDlg.h"
+#include "Platform/Encoding.h"
+#include "Resources/HelpPages.h"
 #include "support/MachineTest.h"
 
 namespace trovex::test {
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
 
 class DialogsTest : public MachineTest {
  protected:
@@ -182,6 +189,82 @@ TEST_F(HelpTest, AMissingFileIsReportedByName) {
   AfficheAide(u"");
   EXPECT_EQ(LastBox(), u"Affichage de l'aide impossible, le fichier d'aide : TROVEX.HLP");
   EXPECT_EQ(view.Boxes().back().style, BoxStyle::kInfo);
+  EXPECT_TRUE(view.Helps().empty());
+}
+
+// A system without a help engine, as Windows is from Vista on.
+class BrowserHelpTest : public HelpTest {
+ protected:
+  BrowserHelpTest() {
+    machine.help_engine = false;
+    disc.Directory("TMP");
+    sRepertoireTemp = u"D:\\TMP";
+  }
+  // The page that was opened, with the folder that it stands in.
+  Text Opened() { return machine.shelled.empty() ? Text() : machine.shelled.back().file; }
+  std::string Page(const Text& name) {
+    std::string bytes(20000, '\0');
+    const FileHandle file = machine.OpenRead(u"D:\\TMP\\~TrvxAide\\" + name);
+    bytes.resize(machine.Read(file, bytes.data(), bytes.size()));
+    machine.Close(file);
+    return bytes;
+  }
+};
+
+TEST_F(BrowserHelpTest, TheContentsPageOpensInTheBrowserWhetherTheHelpFileIsThereOrNot) {
+  AfficheAide(u"");
+  EXPECT_EQ(Opened(), u"D:\\TMP\\~TrvxAide\\index.html");
+  EXPECT_THAT(Page(u"index.html"), HasSubstr("<title>"));
+  EXPECT_THAT(Page(u"options.html"), HasSubstr("</html>"));
+  disc.File("PROG/TROVEX.HLP", "?");
+  AfficheAide(u"");
+  EXPECT_EQ(machine.shelled.size(), 2u);
+  EXPECT_TRUE(view.Helps().empty());
+}
+
+TEST_F(BrowserHelpTest, ATopicOpensItsPage) {
+  AfficheAide(u"Options");
+  EXPECT_EQ(Opened(), u"D:\\TMP\\~TrvxAide\\options.html");
+  AfficheAide(u"archive zip");
+  EXPECT_EQ(Opened(), u"D:\\TMP\\~TrvxAide\\tableaux.html");
+  AfficheAide(u"un sujet que personne ne connaît");
+  EXPECT_EQ(Opened(), u"D:\\TMP\\~TrvxAide\\index.html");
+}
+
+TEST_F(BrowserHelpTest, EveryKeywordLeadsToAPage) {
+  ASSERT_GT(HelpKeywords().size(), 20u);
+  for (const HelpKeyword& keyword : HelpKeywords()) {
+    const auto pages = HelpPages();
+    EXPECT_TRUE(std::any_of(pages.begin(), pages.end(),
+                            [&](const HelpPage& page) { return page.name == keyword.page; }));
+    EXPECT_NE(sPageAide(Text(keyword.text)), u"") << ToUtf8(keyword.text);
+  }
+}
+
+TEST_F(BrowserHelpTest, WhatStandsThereIsWrittenAnew) {
+  disc.File("TMP/~TrvxAide/index.html", std::string(19000, 'x'));
+  AfficheAide(u"");
+  EXPECT_THAT(Page(u"index.html"), AllOf(StartsWith("<!DOCTYPE"), EndsWith("</html>\n")));
+}
+
+TEST_F(BrowserHelpTest, PagesThatCannotBeWrittenAreReportedAndNothingOpens) {
+  machine.write_protected = {u"D:\\TMP"};
+  view.Answer(BoxAnswer::kOk);
+  AfficheAide(u"");
+  EXPECT_EQ(LastBox(),
+            u"Affichage de l'aide impossible, le fichier d'aide : D:\\TMP\\~TrvxAide\r\n\r\n"
+            u"Les pages de l'aide n'ont pas pu être écrites.");
+  EXPECT_TRUE(machine.shelled.empty());
+}
+
+TEST_F(BrowserHelpTest, AnotherHelpFileGetsABoxThatSaysWhyItCannotBeShown) {
+  view.Answer(BoxAnswer::kOk);
+  AfficheAide(u"", u"D:\\JEU\\JEU.HLP");
+  EXPECT_EQ(LastBox(),
+            u"Affichage de l'aide impossible, le fichier d'aide : D:\\JEU\\JEU.HLP\r\n\r\n"
+            u"Depuis Vista, Windows ne sait plus afficher les fichiers d'aide .hlp.");
+  EXPECT_EQ(view.Boxes().back().style, BoxStyle::kInfo);
+  EXPECT_TRUE(machine.shelled.empty());
   EXPECT_TRUE(view.Helps().empty());
 }
 

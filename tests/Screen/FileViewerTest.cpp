@@ -185,6 +185,22 @@ TEST_F(FileViewerTest, AHelpFileOpensTheHelpEngineOnItsIndex) {
   EXPECT_EQ(Pane(), "");
 }
 
+TEST_F(FileViewerTest, AHelpFileThatTheSystemCannotShowGetsABoxForEachClickAndStartsNothing) {
+  machine.help_engine = false;
+  machine.programs[u"HLP"] = u"C:\\WINHLP32.EXE";
+  disc.File("J/AIDE.HLP", "?");
+  view.Answer(BoxAnswer::kOk);
+  View(u"Aide.hlp");
+  const Text box = LastBox();
+  EXPECT_TRUE(
+      box.starts_with(u"Affichage de l'aide impossible, le fichier d'aide : D:\\J\\Aide.hlp"));
+  view.Answer(BoxAnswer::kOk);
+  Raise(form.ListFichier.on_dbl_click);
+  EXPECT_EQ(LastBox(), box);
+  EXPECT_TRUE(view.Helps().empty());
+  EXPECT_TRUE(machine.started.empty());
+}
+
 TEST_F(FileViewerTest, AnotherKindStartsItsProgramAtOnce) {
   machine.programs[u"DOC"] = u"C:\\TEXTE.EXE";
   View(u"Notice.doc");

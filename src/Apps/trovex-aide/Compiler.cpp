@@ -16,6 +16,7 @@ struct Wishes {
   std::string source;
   std::string help_file;
   std::string pages;
+  std::string source_of_pages;
 };
 
 bool ReadArguments(const std::vector<std::string>& arguments, Wishes& wishes) {
@@ -24,6 +25,7 @@ bool ReadArguments(const std::vector<std::string>& arguments, Wishes& wishes) {
     std::string* wish = nullptr;
     if (argument == "--hlp") wish = &wishes.help_file;
     if (argument == "--html") wish = &wishes.pages;
+    if (argument == "--cpp") wish = &wishes.source_of_pages;
     if (wish == nullptr) {
       if (argument.starts_with("-") || !wishes.source.empty()) return false;
       wishes.source = argument;
@@ -58,7 +60,7 @@ bool WritePages(const fs::path& folder, const Book& book, std::ostream& err) {
 int Run(const std::vector<std::string>& arguments, std::ostream& err) {
   Wishes wishes;
   if (!ReadArguments(arguments, wishes)) {
-    err << "usage: trovex-aide SOURCE-FOLDER [--hlp FILE] [--html FOLDER]\n";
+    err << "usage: trovex-aide SOURCE-FOLDER [--hlp FILE] [--html FOLDER] [--cpp FILE]\n";
     return kWrongCommandLine;
   }
   std::vector<Mistake> mistakes;
@@ -68,6 +70,10 @@ int Run(const std::vector<std::string>& arguments, std::ostream& err) {
   }
   if (!mistakes.empty()) return kFailed;
   if (!wishes.help_file.empty() && !Write(wishes.help_file, BuildHelpFile(book), err)) {
+    return kFailed;
+  }
+  if (!wishes.source_of_pages.empty() &&
+      !Write(wishes.source_of_pages, BuildPagesSource(book), err)) {
     return kFailed;
   }
   return wishes.pages.empty() || WritePages(wishes.pages, book, err) ? kDone : kFailed;

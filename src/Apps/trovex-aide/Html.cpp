@@ -47,9 +47,7 @@ class Pages {
   }
 
  private:
-  std::string PageOf(const std::string& name) const {
-    return (name == book_.topics[0].name ? "index" : name) + ".html";
-  }
+  std::string PageOf(const std::string& name) const { return aide::PageOf(book_, name); }
 
   std::string Anchor(const std::string& name, TextView text) const {
     return "<a href=\"" + PageOf(name) + "\">" + Escaped(text) + "</a>";
@@ -160,6 +158,10 @@ class Pages {
 };
 
 }  // namespace
+
+std::string PageOf(const Book& book, const std::string& topic) {
+  return (topic == book.topics[0].name ? "index" : topic) + ".html";
+}
 
 std::map<std::string, std::string> BuildPages(const Book& book) {
   return Pages(book).Build();

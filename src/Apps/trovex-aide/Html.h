@@ -12,4 +12,11 @@ namespace trovex::aide {
 // mots-cles.html the keywords. The same book gives the same pages.
 std::map<std::string, std::string> BuildPages(const Book& book);
 
+// The same pages, and which of them each keyword leads to, as the C++ source of
+// Resources/HelpPages.h.
+std::string BuildPagesSource(const Book& book);
+
+// File name of a topic's page.
+std::string PageOf(const Book& book, const std::string& topic);
+
 }  // namespace trovex::aide
