@@ -10,6 +10,7 @@ namespace {
 constexpr double kBeside = 60;  // between a cell's text and its upright rules
 constexpr double kAbove = 30;   // and its level ones
 constexpr double kRuleWidth = 8;
+constexpr double kLeastWidth = 850;  // of a column, whatever it is on the screen
 constexpr unsigned kRuleColour = Rgb(160, 160, 160);
 
 Font Bold(Font font) {
@@ -34,13 +35,38 @@ GridLayout::GridLayout(PageBuilder& pages, const Grid& grid, const Font& font, u
 void GridLayout::FitColumns() {
   double sum = 0;
   for (int col = 0; col < grid_.Cols(); ++col) sum += grid_.ColWidth(col);
-  const double whole = pages_.Body().width;
-  double left = 0;
   for (int col = 0; col < grid_.Cols(); ++col) {
-    const double width =
-        sum > 0 ? grid_.ColWidth(col) * whole / sum : whole / static_cast<double>(grid_.Cols());
-    if (width > 0) columns_.push_back({col, left, width});
-    left += width;
+    const double width = sum > 0 ? grid_.ColWidth(col) : 1;
+    if (width > 0) columns_.push_back({col, 0, width});
+  }
+  Stretch(pages_.Body().width);
+  double left = 0;
+  for (Column& column : columns_) {
+    column.left = left;
+    left += column.width;
+  }
+}
+
+// What a narrow column lacks is taken from the wider ones in proportion.
+void GridLayout::Stretch(double whole) {
+  const double least = std::min(kLeastWidth, whole / static_cast<double>(columns_.size()));
+  std::vector<Column*> wide;
+  for (Column& column : columns_) wide.push_back(&column);
+  for (double room = whole; !wide.empty();) {
+    double sum = 0;
+    for (const Column* column : wide) sum += column->width;
+    const auto narrow = std::stable_partition(wide.begin(), wide.end(), [&](const Column* column) {
+      return column->width * room / sum >= least;
+    });
+    if (narrow == wide.end()) {
+      for (Column* column : wide) column->width *= room / sum;
+      return;
+    }
+    for (auto column = narrow; column != wide.end(); ++column) {
+      (*column)->width = least;
+      room -= least;
+    }
+    wide.erase(narrow, wide.end());
   }
 }
 

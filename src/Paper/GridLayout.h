@@ -1,6 +1,6 @@
 // A grid as a table on paper: its fixed rows stand again at the top of each page, its columns keep
-// their proportions over the whole width, text too wide for its cell is wrapped. A row goes to the
-// next page whole unless it is taller than a page.
+// their proportions over the whole width, but for a least width of each, text too wide for its cell
+// is wrapped. A row goes to the next page whole unless it is taller than a page.
 #pragma once
 
 #include <deque>
@@ -32,6 +32,8 @@ class GridLayout {
   };
 
   void FitColumns();
+  // Makes the columns as wide as `whole` together.
+  void Stretch(double whole);
   void Wrap(int row, const FontRuler& ruler, Row& wrapped) const;
   void PutHeader();
   void PutRow(const Row& row);

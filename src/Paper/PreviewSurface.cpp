@@ -1,6 +1,7 @@
 #include "Paper/PreviewSurface.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "Lib/Dialogs.h"
 #include "Lib/LIB_DIALOGUE.h"
@@ -21,6 +22,8 @@ constexpr double kTitleSize = 14;
 constexpr double kBelowTitle = 170;
 constexpr double kTwipsPerPixel = 15;
 constexpr int kRight = 1, kCentre = 2;
+// From one tab stop to the next: room for eight letters of which most are no capitals.
+constexpr TextView kTabWidth = u"NNNNNNNN";
 
 // Takes the first line off a text; CR LF ends it.
 TextView TakeLine(TextView& text) {
@@ -74,22 +77,58 @@ void PreviewSurface::Advance(double height) {
 void PreviewSurface::PutLine(TextView line, int align) {
   const FontRuler& ruler = Ruler();
   Advance(ruler.LineHeight());
-  const double width = ruler.Width(line);
-  const double room = PageWidth() - x_ - width;
+  const double room = PageWidth() - x_ - ruler.Width(line);
   double x = x_;
   if (align == kRight) x += std::max(room, 0.0);
   if (align == kCentre) x += std::max(room, 0.0) / 2;
-  pages_.PutText(x, y_, ruler, line, colour_);
-  if (underline_) {
-    const double below = y_ + ruler.Ascent() + font_.size * 2;
-    pages_.PutLine(x, below, x + width, below, font_.size, colour_);
+  PutPart(x, line);
+  y_ += ruler.LineHeight();
+}
+
+void PreviewSurface::PutPart(double x, TextView part) {
+  const FontRuler& ruler = Ruler();
+  pages_.PutText(x, y_, ruler, part, colour_);
+  if (!underline_) return;
+  const double below = y_ + ruler.Ascent() + font_.size * 2;
+  pages_.PutLine(x, below, x + ruler.Width(part), below, font_.size, colour_);
+}
+
+// What a tab leads to stands at the same place in each line, however wide the letters before it
+// are. What has no room there goes to the next line.
+void PreviewSurface::PutTabbedLine(TextView line) {
+  const FontRuler& ruler = Ruler();
+  const double stop = ruler.Width(kTabWidth);
+  Advance(ruler.LineHeight());
+  double x = x_;
+  const auto next_line = [&] {
+    y_ += ruler.LineHeight();
+    Advance(ruler.LineHeight());
+    x = x_;
+  };
+  for (;;) {
+    const std::size_t tab = line.find(u'\t');
+    const Text field = PrintableText(line.substr(0, tab));
+    if (x > x_ && x + ruler.Width(Trimmed(field)) > PageWidth()) next_line();
+    const std::vector<TextView> parts = ruler.Wrap(field, std::max(PageWidth() - x, 0.0));
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+      if (i > 0) next_line();
+      PutPart(x, parts[i]);
+    }
+    if (tab == TextView::npos) break;
+    x = (std::floor((x + ruler.Width(parts.back())) / stop) + 1) * stop;
+    line.remove_prefix(tab + 1);
   }
   y_ += ruler.LineHeight();
 }
 
 void PreviewSurface::PrintTextAligned(TextView text, int align) {
   do {
-    const Text line = PrintableText(TakeLine(text));
+    const TextView whole = TakeLine(text);
+    if (align != kRight && align != kCentre && whole.find(u'\t') != TextView::npos) {
+      PutTabbedLine(whole);
+      continue;
+    }
+    const Text line = PrintableText(whole);
     const double room = std::max(PageWidth() - x_, 0.0);
     for (TextView part : Ruler().Wrap(line, room)) {
       if (align == kRight || align == kCentre) part = Trimmed(part);

@@ -53,7 +53,7 @@ class PreviewSurface : public Control {
 
   // Writes lines, cut by CR LF and wrapped at blanks, from the current position on, and goes to the
   // beginning of the next line. The end of the text ends a line as well, but for one behind a CR
-  // LF.
+  // LF. Tabs lead to stops that stand at the same places in every line of a font.
   void PrintText(TextView text);
   // The same, against the left margin's side (0 and unknown values), the right one (1) or centred
   // (2).
@@ -79,6 +79,9 @@ class PreviewSurface : public Control {
  private:
   const FontRuler& Ruler() { return pages_.Ruler(font_); }
   void PutLine(TextView line, int align);
+  void PutTabbedLine(TextView line);
+  // At the present height; x and y stay.
+  void PutPart(double x, TextView part);
   void PutTitle();
   // Makes room for a line of this height.
   void Advance(double height);

@@ -13,10 +13,22 @@ namespace {
 
 constexpr std::size_t kBuffer = 65536;
 
-// A file that is deleted unless it was kept.
+// A name beside `file` that nothing bears.
+Text NameBeside(const Text& file) {
+  const Text directory = file.substr(0, file.find_last_of(u'\\') + 1);
+  FileStatus status;
+  for (long long number = 0;; ++number) {
+    Text name = directory + u"~Trvx" + Decimal(number) + u".tmp";
+    if (!CurrentPlatform().GetFileStatus(name, status)) return name;
+  }
+}
+
+// Written beside the file whose place it takes when it is kept; else it goes, and a former file
+// stays as it was.
 class NewFile {
  public:
-  explicit NewFile(const Text& name) : name_(name), handle_(CurrentPlatform().OpenWrite(name)) {}
+  explicit NewFile(const Text& place)
+      : place_(place), name_(NameBeside(place)), handle_(CurrentPlatform().OpenWrite(name_)) {}
   ~NewFile() {
     if (kept_) return;
     IgnoringErrors([&] { CurrentPlatform().Close(handle_); });
@@ -33,6 +45,7 @@ class NewFile {
   void Keep() {
     Flush();
     CurrentPlatform().Close(std::exchange(handle_, FileHandle::kInvalid));
+    CurrentPlatform().PutInPlace(name_, place_);
     kept_ = true;
   }
 
@@ -42,7 +55,8 @@ class NewFile {
     buffer_.clear();
   }
 
-  const Text& name_;
+  const Text& place_;
+  const Text name_;
   FileHandle handle_;
   std::string buffer_;
   bool kept_ = false;

@@ -19,6 +19,8 @@ const PreviewTexts kFrenchPreview = {
     .of = u" sur ",
     .no_printer = u"Aucune imprimante n'est installée sur cet ordinateur.",
     .not_printed = u"L'imprimante a refusé le document : l'impression est incomplète.",
+    .printing = u"Impression",
+    .cancel = u"Annuler",
 };
 
 const PreviewTexts kEnglishPreview = {
@@ -38,6 +40,8 @@ const PreviewTexts kEnglishPreview = {
     .of = u" of ",
     .no_printer = u"No printer is installed on this computer.",
     .not_printed = u"The printer refused the document: it was not printed completely.",
+    .printing = u"Printing",
+    .cancel = u"Cancel",
 };
 
 }  // namespace trovex

@@ -16,6 +16,7 @@ struct PreviewTexts {
   Text print, save, close;
   Text page, of;  // "Page 2 sur 7"
   Text no_printer, not_printed;
+  Text printing, cancel;  // the box of a running job
 };
 
 struct Preview {

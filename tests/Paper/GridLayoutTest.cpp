@@ -91,6 +91,37 @@ TEST_F(GridLayoutTest, ColumnsWiderThanThePageAreFittedToIt) {
               ElementsAre(kMargin, kMargin + kPortraitWidth / 2, kMargin + kPortraitWidth));
 }
 
+TEST_F(GridLayoutTest, AColumnNarrowedToAlmostNothingHasALeastWidthOnPaper) {
+  grid.SetColWidth(0, 15);
+  grid.SetColWidth(1, 4000);
+  Print();
+  EXPECT_THAT(Uprights(0), ElementsAre(kMargin, kMargin + 850, kMargin + kPortraitWidth));
+}
+
+TEST_F(GridLayoutTest, WhatNarrowColumnsLackIsTakenFromTheOthersInProportion) {
+  grid.SetCols(4);
+  grid.SetColWidth(0, 15);
+  grid.SetColWidth(1, 6000);
+  grid.SetColWidth(2, 15);
+  grid.SetColWidth(3, 2000);
+  Print();
+  const double room = kPortraitWidth - 2 * 850;
+  const std::vector<double> places = Uprights(0);
+  ASSERT_EQ(places.size(), 5u);
+  EXPECT_NEAR(places[2] - places[1], room * 3 / 4, 0.01);
+  EXPECT_NEAR(places[4] - places[3], room / 4, 0.01);
+}
+
+TEST_F(GridLayoutTest, MoreColumnsThanFitShareThePageEvenly) {
+  grid.SetCols(40);
+  for (int col = 0; col < 40; ++col) grid.SetColWidth(col, col == 0 ? 15 : 1000);
+  Print();
+  const std::vector<double> places = Uprights(0);
+  ASSERT_EQ(places.size(), 41u);
+  EXPECT_NEAR(places[1] - places[0], kPortraitWidth / 40, 0.01);
+  EXPECT_NEAR(places.back(), kMargin + kPortraitWidth, 0.01);
+}
+
 TEST_F(GridLayoutTest, AColumnWithoutWidthIsNotPrinted) {
   grid.SetColWidth(0, 0);
   Print();

@@ -156,6 +156,20 @@ TEST_F(PdfTest, AFullDiskLeavesNoHalfFileBehind) {
   }
 }
 
+TEST_F(PdfTest, AFileThatCannotBeWrittenWholeLeavesTheFormerOneAsItWas) {
+  for (int i = 0; i < 5000; ++i) Put(u"une ligne de texte");
+  disc.File("A.PDF", "l'ancien");
+  SmallDisk full(disc.GetPlatform(), 100000);
+  PartScope scope(full);
+  view.Answer(BoxAnswer::kOk);
+  EXPECT_FALSE(SavePdf(document, u"D:\\A.PDF"));
+  std::ifstream file(disc.HostPath("A.PDF"), std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  EXPECT_EQ(bytes.str(), "l'ancien");
+  EXPECT_FALSE(Exists("~Trvx0.tmp"));
+}
+
 TEST_F(PdfTest, APlaceThatCannotBeWrittenIsNamedAndNothingIsDeleted) {
   disc.File("DOSSIER/AUTRE.TXT", "x");
   view.Answer(BoxAnswer::kOk);

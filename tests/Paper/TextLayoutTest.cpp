@@ -81,7 +81,36 @@ TEST_F(TextLayoutTest, LineEndsCutTheText) {
 
 TEST_F(TextLayoutTest, TabsLeadToTheNextColumnOfEight) {
   Print(u"a\tb\tc");
-  EXPECT_THAT(Lines(0), ElementsAre(u"a       b       c"));
+  ASSERT_THAT(Lines(0), ElementsAre(u"a", u"b", u"c"));
+  EXPECT_NEAR(Body(0)[1].x, kMargin + 8 * kChar, 0.01);
+  EXPECT_NEAR(Body(0)[2].x, kMargin + 16 * kChar, 0.01);
+}
+
+TEST_F(TextLayoutTest, ColumnsBehindTabsLineUpHoweverWideTheLettersBeforeThemAre) {
+  MyPrintPreview().PrintText(u"iiiiii\tun\r\nWWWW\tdeux\r\n\ttrois");
+  Look();
+  MyPrintPreview().ShowPreview();
+  ASSERT_EQ(Body(0).size(), 5u);
+  EXPECT_EQ(Body(0)[1].x, Body(0)[3].x);
+  EXPECT_EQ(Body(0)[3].x, Body(0)[4].x);
+}
+
+TEST_F(TextLayoutTest, WhatHasNoRoomBehindATabGoesToTheNextLine) {
+  Print(Text(70, u'a') + u"\t" + Text(20, u'b'));
+  EXPECT_THAT(Lines(0), ElementsAre(Text(70, u'a'), Text(20, u'b')));
+  EXPECT_EQ(Body(0)[1].x, kMargin);
+  EXPECT_NEAR(Body(0)[1].baseline - Body(0)[0].baseline, kLine, 0.01);
+  Print(Text(84, u'\t') + u"fin");
+  EXPECT_EQ(Lines(0).back(), u"fin");
+}
+
+TEST_F(TextLayoutTest, ATabbedTextFlowsOntoTheNextPage) {
+  Text text;
+  for (int i = 0; i < 70; ++i) text += u"a\tb\r\n";
+  Print(text);
+  ASSERT_EQ(pages.pages.size(), 2u);
+  EXPECT_EQ(Lines(0).size(), 2 * kLinesAPage);
+  EXPECT_EQ(Lines(1).size(), 2 * (70 - kLinesAPage));
 }
 
 TEST_F(TextLayoutTest, ControlCharactersAreBlanks) {

@@ -54,7 +54,9 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
       if (ChangesDrives(w)) RequestDrives();
       return TRUE;
     case WM_ACTIVATE:
-      if (LOWORD(w) != WA_INACTIVE) RequestDrives();
+      // At its first showing the form has only just read them.
+      if (LOWORD(w) == WA_INACTIVE) left_ = true;
+      if (LOWORD(w) != WA_INACTIVE && left_) RequestDrives();
       break;
     case WM_CLOSE:
       Run([this] { form_.Close(); });

@@ -78,6 +78,7 @@ class FormWindow {
   bool placing_ = false;
   bool flush_requested_ = false;
   bool drives_requested_ = false;
+  bool left_ = false;  // another window was active since
 };
 
 }  // namespace trovex::win32

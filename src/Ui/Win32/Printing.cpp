@@ -1,129 +1,128 @@
 #include "Ui/Win32/Printing.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "Platform/Win32/Names.h"
-
-// Behind Windows.h, whose types they need.
-#include <commdlg.h>
-#include <winspool.h>
+#include "Ui/Win32/PrinterDialog.h"
+#include "Ui/Win32/PrintingBox.h"
 
 namespace trovex::win32 {
 namespace {
 
-bool AnyPrinter() {
-  DWORD needed = 0, count = 0;
-  EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 4, nullptr, 0, &needed,
-                &count);
-  return needed > 0;
+constexpr double kTwipsPerInch = 1440;
+
+enum class Outcome { kDone, kCancelled, kFailed };
+
+// What a call of the printer's that gave no success means.
+Outcome OutcomeOf(int result) {
+  const DWORD code = ::GetLastError();
+  const bool cancelled = result == SP_USERABORT || result == SP_APPABORT ||
+                         code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED;
+  return cancelled ? Outcome::kCancelled : Outcome::kFailed;
 }
 
-// The dialog, with what it gives: released at the end.
-class PrintDialog {
- public:
-  PrintDialog(HWND owner, std::size_t pages) {
-    dialog_.lStructSize = sizeof dialog_;
-    dialog_.hwndOwner = owner;
-    dialog_.nFromPage = dialog_.nMinPage = 1;
-    dialog_.nToPage = dialog_.nMaxPage = static_cast<WORD>(std::min<std::size_t>(pages, 0xFFFF));
-  }
-  ~PrintDialog() {
-    if (dialog_.hDC != nullptr) DeleteDC(dialog_.hDC);
-    GlobalFree(dialog_.hDevMode);
-    GlobalFree(dialog_.hDevNames);
-  }
-  PrintDialog(const PrintDialog&) = delete;
-  PrintDialog& operator=(const PrintDialog&) = delete;
+Sheet SheetOf(HDC dc) {
+  const auto ask = [dc](int index) { return Printers().capability(dc, index); };
+  return {ask(LOGPIXELSX),     ask(LOGPIXELSY),      ask(PHYSICALWIDTH),
+          ask(PHYSICALHEIGHT), ask(PHYSICALOFFSETX), ask(PHYSICALOFFSETY)};
+}
 
-  // False where the system knows no printer to begin with.
-  bool Prepare(Extent paper) {
-    dialog_.Flags = PD_RETURNDEFAULT | PD_NOWARNING;
-    if (!PrintDlgW(&dialog_)) return false;
-    SetPaper(paper);
-    return true;
-  }
-
-  bool Ask() {
-    dialog_.Flags = PD_ALLPAGES | PD_NOSELECTION | PD_RETURNDC | PD_USEDEVMODECOPIESANDCOLLATE;
-    return PrintDlgW(&dialog_) && dialog_.hDC != nullptr;
-  }
-
-  HDC Device() const { return dialog_.hDC; }
-  // The first page to print, from 0, and the one behind the last.
-  std::size_t First() const { return Ranged() ? dialog_.nFromPage - 1u : 0; }
-  std::size_t End(std::size_t pages) const {
-    return Ranged() ? std::min<std::size_t>(dialog_.nToPage, pages) : pages;
-  }
-
- private:
-  bool Ranged() const { return (dialog_.Flags & PD_PAGENUMS) != 0 && dialog_.nFromPage > 0; }
-
-  void SetPaper(Extent paper) {
-    auto* mode = static_cast<DEVMODEW*>(GlobalLock(dialog_.hDevMode));
-    if (mode == nullptr) return;
-    mode->dmFields |= DM_ORIENTATION | DM_PAPERSIZE;
-    mode->dmOrientation = paper.width > paper.height ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
-    mode->dmPaperSize = DMPAPER_A4;
-    GlobalUnlock(dialog_.hDevMode);
-  }
-
-  PRINTDLGW dialog_ = {};
-};
-
-// Makes a pixel of the drawing a dot of the printer across, from the paper's corner on; smaller
-// where the paper is smaller than the page.
-Scale MapToPaper(HDC dc, Extent paper) {
-  const Scale scale{GetDeviceCaps(dc, LOGPIXELSX)};
-  const int down = GetDeviceCaps(dc, LOGPIXELSY);
-  const double across = GetDeviceCaps(dc, PHYSICALWIDTH) / (paper.width / 1440 * scale.dpi);
-  const double along = GetDeviceCaps(dc, PHYSICALHEIGHT) / (paper.height / 1440 * down);
-  const double fit = std::min({1.0, across, along});
+// Makes a pixel of the drawing a dot of the printer across, before the page is fitted.
+Scale MapToPaper(HDC dc, Extent page) {
+  const Sheet sheet = SheetOf(dc);
+  const SheetFit fit = FitToSheet(page, sheet);
   constexpr int kUnits = 10000;
   SetMapMode(dc, MM_ANISOTROPIC);
   SetWindowExtEx(dc, kUnits, kUnits, nullptr);
-  SetViewportExtEx(dc, static_cast<int>(kUnits * fit),
-                   static_cast<int>(kUnits * fit * down / scale.dpi), nullptr);
-  SetViewportOrgEx(dc, -GetDeviceCaps(dc, PHYSICALOFFSETX), -GetDeviceCaps(dc, PHYSICALOFFSETY),
+  SetViewportExtEx(dc, static_cast<int>(kUnits * fit.scale),
+                   static_cast<int>(kUnits * fit.scale * sheet.dots_down / sheet.dots_across),
                    nullptr);
-  return scale;
+  SetViewportOrgEx(dc, fit.left, fit.top, nullptr);
+  return {sheet.dots_across};
 }
 
-bool PrintOn(HDC dc, const PrintDialog& dialog, const Pages& pages, PagePainter& painter) {
-  const std::size_t end = dialog.End(pages.pages.size());
-  for (std::size_t i = dialog.First(); i < end; ++i) {
-    if (StartPage(dc) <= 0) return false;
-    const Page& page = pages.pages[i];
-    painter.Draw(dc, page, MapToPaper(dc, page.paper));
-    if (EndPage(dc) <= 0) return false;
+class Job {
+ public:
+  Job(const Preview& preview, const PrinterDialog& dialog, PrintingBox& box, PagePainter& painter)
+      : preview_(preview), dialog_(dialog), box_(box), painter_(painter) {}
+
+  Outcome Run() {
+    const PrinterCalls& printer = Printers();
+    const HDC dc = dialog_.Device();
+    const Text& title = preview_.pages.title;
+    const Text name = title.empty() ? preview_.application : title;
+    DOCINFOW document = {};
+    document.cbSize = sizeof document;
+    document.lpszDocName = Wide(name);
+    printer.set_abort(dc, PrintingBox::Ask);
+    SetLastError(ERROR_SUCCESS);
+    const int started = printer.start_document(dc, &document);
+    // A document that is printed into a file asks for its name, and the user may go back.
+    if (started <= 0) return OutcomeOf(started);
+    const Outcome outcome = PrintAll(dc);
+    if (outcome == Outcome::kDone) {
+      const int ended = printer.end_document(dc);
+      return ended > 0 ? outcome : OutcomeOf(ended);
+    }
+    printer.abort_document(dc);
+    return outcome;
   }
-  return true;
-}
+
+ private:
+  Outcome PrintAll(HDC dc) {
+    const std::vector<Page>& pages = preview_.pages.pages;
+    const std::size_t end = dialog_.End(pages.size());
+    for (std::size_t i = dialog_.First(); i < end; ++i) {
+      box_.Show(preview_.texts.page + Decimal(static_cast<long long>(i + 1)) + preview_.texts.of +
+                Decimal(static_cast<long long>(pages.size())));
+      if (!box_.GoOn()) return Outcome::kCancelled;
+      const int result = PrintPage(dc, pages[i]);
+      if (!box_.GoOn()) return Outcome::kCancelled;
+      if (result <= 0) return OutcomeOf(result);
+    }
+    return Outcome::kDone;
+  }
+
+  int PrintPage(HDC dc, const Page& page) {
+    SetLastError(ERROR_SUCCESS);
+    const int started = Printers().start_page(dc);
+    if (started <= 0) return started;
+    painter_.Draw(dc, page, MapToPaper(dc, page.paper));
+    SetLastError(ERROR_SUCCESS);
+    return Printers().end_page(dc);
+  }
+
+  const Preview& preview_;
+  const PrinterDialog& dialog_;
+  PrintingBox& box_;
+  PagePainter& painter_;
+};
 
 }  // namespace
 
+SheetFit FitToSheet(Extent page, const Sheet& sheet) {
+  const double width = page.width / kTwipsPerInch * sheet.dots_across;
+  const double height = page.height / kTwipsPerInch * sheet.dots_down;
+  const double scale = std::min(sheet.width / width, sheet.height / height);
+  return {scale, static_cast<int>(std::lround((sheet.width - width * scale) / 2)) - sheet.left,
+          static_cast<int>(std::lround((sheet.height - height * scale) / 2)) - sheet.top};
+}
+
 void PrintPages(HWND owner, const Preview& preview, Fonts& fonts, PrintMeasure& measure) {
   const Pages& pages = preview.pages;
-  PrintDialog dialog(owner, pages.pages.size());
-  if (!AnyPrinter() || !dialog.Prepare(pages.pages.front().paper)) {
+  PrinterDialog dialog(owner, pages.pages.size());
+  if (!dialog.Prepare(pages.pages.front().paper)) {
     return preview.on_failure(preview.texts.no_printer);
   }
   if (!dialog.Ask()) return;
-  SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-  const HDC dc = dialog.Device();
-  const Text name = pages.title.empty() ? preview.application : pages.title;
-  DOCINFOW document = {};
-  document.cbSize = sizeof document;
-  document.lpszDocName = Wide(name);
-  if (StartDocW(dc, &document) <= 0) {
-    // A document that is printed into a file asks for its name, and the user may go back.
-    const bool cancelled = ::GetLastError() == ERROR_CANCELLED;
-    if (!cancelled) preview.on_failure(preview.texts.not_printed);
-    return;
-  }
   PagePainter painter(pages, fonts, measure);
-  if (PrintOn(dc, dialog, pages, painter) && EndDoc(dc) > 0) return;
-  AbortDoc(dc);
-  preview.on_failure(preview.texts.not_printed);
+  Outcome outcome = Outcome::kDone;
+  {
+    PrintingBox box(owner, {preview.texts.printing, preview.texts.cancel}, fonts);
+    outcome = Job(preview, dialog, box, painter).Run();
+  }
+  if (outcome == Outcome::kFailed) preview.on_failure(preview.texts.not_printed);
 }
 
 }  // namespace trovex::win32
