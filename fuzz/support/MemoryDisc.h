@@ -2,6 +2,7 @@
 // name only. It holds the current platform's place, and a view without a screen, for its life.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -30,6 +31,7 @@ class MemoryDisc : private internal::Machine, public ForwardingPlatform {
   std::map<Text, std::string> files;  // by whole name, upper case
   HeadlessView view;
   std::size_t bytes_read = 0;
+  std::int64_t least_length = 0;  // what GetFileStatus tells of a shorter file
 
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
     data = {};
@@ -42,7 +44,7 @@ class MemoryDisc : private internal::Machine, public ForwardingPlatform {
   bool GetFileStatus(const Text& name, FileStatus& status) override {
     const auto found = files.find(ToUpper(name));
     if (found == files.end()) return false;
-    status = {0, std::ssize(found->second), {1997, 3, 1, 12, 0, 0}};
+    status = {0, std::max<std::int64_t>(std::ssize(found->second), least_length), {}};
     return true;
   }
   FileHandle OpenRead(const Text& name) override {

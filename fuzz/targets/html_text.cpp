@@ -11,8 +11,8 @@
 namespace trovex::fuzz {
 namespace {
 
-constexpr std::size_t kLastPosition = 32767;
 constexpr std::size_t kLongestEntity = 8;
+constexpr std::size_t kLongestInput = 300;  // longer ones say no more and cost far more
 
 bool HasEntityLetter(TextView text) {
   return std::any_of(kEntities.begin(), kEntities.end(), [&](const Entity& entity) {
@@ -66,6 +66,7 @@ void TryAnchors(const Text& text, const Text& html) {
 }  // namespace
 
 void Try(std::string_view input) {
+  if (input.size() > kLongestInput) return;
   HeadlessView view;
   const ViewScope scope(view);
   const Text text = FromCp1252(input);
@@ -77,9 +78,8 @@ void Try(std::string_view input) {
     if (!view.Boxes().empty()) return;
     TryText(text, html);
     TryAnchors(text, html);
-  } catch (const RuntimeError& error) {
-    Promise(error.Kind() == ErrorNumber::kOverflow, "only positions may be too large");
-    Promise(text.size() * kLongestEntity > kLastPosition, "a short text has no large positions");
+  } catch (const RuntimeError&) {
+    Promise(false, "a short text raises nothing");
   }
 }
 

@@ -1,5 +1,6 @@
 // Settings files too large for the system's profile functions. An input is a section, a key and a
-// value, a line each, and the lines that the file ends with, behind enough of others.
+// value, a line each, and the file. Its length is told as that of a large one: the readers choose
+// their way by it and ask no further.
 #include <algorithm>
 
 #include "Lib/LIB_INI.h"
@@ -12,20 +13,9 @@ namespace {
 
 const Text kFile = u"D:\\GROS.INI";
 
-// Lines that say nothing, to the size from which on a file counts as large.
-const std::string& Padding() {
-  static const std::string padding = [] {
-    std::string lines;
-    while (std::ssize(lines) < kGrosFichier) lines += ";" + std::string(9997, '-') + "\r\n";
-    return lines;
-  }();
-  return padding;
-}
-
-// The lines behind the padding, as they are written: each with CR LF.
+// The lines as they are written: each with CR LF.
 std::vector<std::string> LinesOf(std::string_view file) {
   std::vector<std::string> lines;
-  file.remove_prefix(Padding().size());
   while (!file.empty()) {
     const std::size_t end = std::min(file.find_first_of("\r\n"), file.size());
     lines.emplace_back(file.substr(0, end));
@@ -46,7 +36,6 @@ std::size_t Lost(const std::vector<std::string>& before, const std::vector<std::
 }
 
 void CheckWritten(const std::string& before, const std::string& after) {
-  Promise(after.starts_with(Padding()), "lines in front of the section stay");
   Promise(after.ends_with("\r\n"), "the last line has its end");
   const auto old_lines = LinesOf(before), new_lines = LinesOf(after);
   const std::size_t lost = Lost(old_lines, new_lines);
@@ -60,10 +49,11 @@ void CheckWritten(const std::string& before, const std::string& after) {
 
 void Try(std::string_view input) {
   MemoryDisc disc;
+  disc.least_length = kGrosFichier;
   sDernierFichierIni.clear();
   const Text section = FromCp1252(TakeLine(input)), key = FromCp1252(TakeLine(input));
   const Text value = FromCp1252(TakeLine(input)), none = u"\uFFFD";
-  std::string& file = disc.files[kFile] = Padding() + std::string(input);
+  std::string& file = disc.files[kFile] = std::string(input);
   const std::string before = file;
 
   const Text read = sLitIni(section, key, none, kFile);
