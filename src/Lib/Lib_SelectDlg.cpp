@@ -19,6 +19,7 @@ Lib_SelectDlg::Lib_SelectDlg() : Form(kSelectDlgSpec) {
   Annuler().on_click = [this] { Answer(u"0"); };
   on_key_press = [this](int key) {
     if (key == kKeyEscape) Annuler().Press();
+    if (key == kKeyEnter) Oui().Press();
   };
 }
 

@@ -64,6 +64,7 @@ void Explorer_Click(MainForm& form) {
   const Text start = StartingDirectory(form);
   UpdateDrives(form);
   if (!DirectoryExists(start)) return MainMsg(ResString(StringId::kRepertoireIntrouvable));
+  const InputBreak input_break;
   BusyOn(ResString(StringId::kExplorationRepertoire) + StartingDirectory(form) + u"...");
   ClearWindow(form);
   Walk(form);

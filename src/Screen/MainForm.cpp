@@ -37,6 +37,8 @@ MainForm::MainForm()
   for (int i = 0; i <= 6; ++i) {
     text_info_[static_cast<std::size_t>(i)] = &Get<TextBox>(u"TextInfo", i);
   }
+  // An archive is found by its name; its first column is its size.
+  GridLogiciel(static_cast<int>(Table::kArchives)).SetSearchCol(2);
   BindEvents();
   RegisterTables(grids_);
   RegisterPanelAide(&PanelAide);
@@ -53,6 +55,7 @@ void MainForm::BindEvents() {
   on_resize = [this] { Form_Resize(*this); };
   on_paint = [this] { Form_Paint(*this); };
   on_unload = [this] { Form_Unload(*this); };
+  on_session_end = [this] { Unload(); };
   on_key_down = [](int key) {
     if (key == kKeyF1) AfficheAide({});
   };

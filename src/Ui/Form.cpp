@@ -153,8 +153,8 @@ void Form::Show() {
 }
 
 void Form::ShowModal() {
-  Show();
-  if (Loaded() && Visible()) view_->RunModal(*this);
+  Load();
+  view_->RunModal(*this);
 }
 
 void Form::Hide() {

@@ -86,6 +86,9 @@ class Form : public Control {
   Event on_resize;
   Event on_paint;
   Event on_unload;
+  // The session of the system ends, and the program with it as soon as this is done.
+  Event on_session_end;
+  // Esc, and Enter where the control that has the focus has no use for it.
   std::function<void(int key)> on_key_press;
   std::function<void(int key)> on_key_down;
 

@@ -1,5 +1,7 @@
 #include "Ui/Grid.h"
 
+#include <algorithm>
+
 namespace trovex {
 namespace {
 
@@ -121,6 +123,25 @@ void Grid::SetSelEndCol(int col) {
   Require(col >= 0 && col < cols_, ErrorNumber::kInvalidCol);
   sel_end_col_ = col;
   Notify(Property::kSelection);
+}
+
+int Grid::FindRow(TextView beginning, int from) const {
+  const Text wanted = ToUpper(beginning);
+  const int count = rows_ - fixed_rows_;
+  for (int i = 0; i < count; ++i) {
+    const int row = fixed_rows_ + (std::max(from, fixed_rows_) - fixed_rows_ + i) % count;
+    if (ToUpper(Trimmed(Cell(row, search_col_))).starts_with(wanted)) return row;
+  }
+  return 0;
+}
+
+Text Grid::RowText(int row) const {
+  Text text;
+  for (int col = 0; col < cols_; ++col) {
+    if (col > 0) text += u'\t';
+    text += Trimmed(Cell(row, col));
+  }
+  return text;
 }
 
 bool Grid::IsFree(TextView text) {

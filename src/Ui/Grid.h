@@ -54,6 +54,15 @@ class Grid : public Control {
   void SetSelStartCol(int col);
   void SetSelEndCol(int col);
 
+  // The column in which the user finds a row by typing the beginning of its text.
+  int SearchCol() const { return search_col_; }
+  void SetSearchCol(int col) { search_col_ = col; }
+  // The first row from `from` on, round and round, whose text in that column begins so, whatever
+  // its case and the blanks before it; 0 if there is none. The current cell stays.
+  int FindRow(TextView beginning, int from) const;
+  // The cells of a row without the blanks around them, parted by tabs.
+  Text RowText(int row) const;
+
   // A cell is free if it is empty or its numeric value is exactly -1 or -2.
   static bool IsFree(TextView text);
   // Number of free cells in the column, fixed rows left out: kept up to date, so that whoever
@@ -76,6 +85,7 @@ class Grid : public Control {
   int rows_ = 2, cols_ = 4, fixed_rows_ = 1, fixed_cols_ = 0;
   int row_ = 1, col_ = 0;
   int sel_start_col_ = 0, sel_end_col_ = 0;
+  int search_col_ = 0;
   std::vector<Text> cells_;
   std::vector<Column> columns_;
   int counted_col_ = -1;  // the column whose free cells are counted, -1 if none is

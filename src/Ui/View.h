@@ -80,7 +80,8 @@ class View {
   virtual void Repaint(Control& control) = 0;
   // Gives a control the input focus.
   virtual void SetFocus(Control& control) = 0;
-  // Runs until the form is hidden or unloaded.
+  // Shows a loaded form, which is hidden, before the one that the user has in front, which waits
+  // beneath it; runs until the form is hidden or unloaded.
   virtual void RunModal(Form& form) = 0;
   // Takes a form out of or into the topmost order.
   virtual void SetTopmost(Form& form, bool topmost) = 0;
@@ -105,6 +106,9 @@ class View {
   virtual void ShowPreview(const Preview& preview) = 0;
 
   virtual void SetPointer(Pointer pointer) = 0;
+  // Between true and false what the user does with mouse and keyboard is lost, but for answers to
+  // boxes. Calls nest.
+  virtual void IgnoreInput(bool ignore) = 0;
   virtual Extent ScreenSize() = 0;
 };
 
@@ -121,6 +125,19 @@ class ViewScope {
 
  private:
   View* former_;
+};
+
+// A command that holds the program's one thread for long: what the user does meanwhile must not be
+// done behind it.
+class InputBreak {
+ public:
+  InputBreak() : view_(CurrentView()) { view_.IgnoreInput(true); }
+  ~InputBreak() { view_.IgnoreInput(false); }
+  InputBreak(const InputBreak&) = delete;
+  InputBreak& operator=(const InputBreak&) = delete;
+
+ private:
+  View& view_;
 };
 
 }  // namespace trovex

@@ -11,12 +11,11 @@
 namespace trovex {
 namespace {
 
-// A run-time error that no handler caught: its message, then the end.
-int ReportAndEnd(const RuntimeError& error) {
+// A run-time error that no handler caught: its message, before the end.
+void Report(const RuntimeError& error) {
   const Text text =
       u"Erreur d'exécution '" + Decimal(error.Number()) + u"' :\r\n\r\n" + error.Description();
   CurrentView().ShowBox({BoxStyle::kErreur, Text(kTitle), text});
-  return 1;
 }
 
 int RunProgram() {
@@ -29,13 +28,15 @@ int RunProgram() {
     view.End();
     PostQuitMessage(0);
   });
+  view.on_failure = Report;
+  MainForm form;
   try {
-    MainForm form;
     Main(form);
     view.Run();
     return 0;
   } catch (const RuntimeError& error) {
-    return ReportAndEnd(error);
+    view.Fail(error);  // nothing new where it comes from the loop
+    return 1;
   }
 }
 

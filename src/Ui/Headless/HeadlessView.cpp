@@ -48,6 +48,8 @@ int HeadlessView::Repaints(const Control& control) const {
 }
 
 void HeadlessView::RunModal(Form& form) {
+  form.Show();
+  if (!form.Loaded() || !form.Visible()) return;
   if (!form_answers_.empty()) TakeFirst(form_answers_)(form);
   if (!form.Loaded() || !form.Visible()) return;
   // Nobody is there to close it.

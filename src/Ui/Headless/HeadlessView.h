@@ -80,6 +80,7 @@ class HeadlessView : public View {
   FontMeasure MeasureFont(const Font& font) override;
   void ShowPreview(const Preview& preview) override;
   void SetPointer(Pointer pointer) override { pointer_ = pointer; }
+  void IgnoreInput(bool) override {}
   Extent ScreenSize() override { return screen_; }
 
  private:

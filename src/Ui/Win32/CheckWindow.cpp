@@ -20,8 +20,7 @@ void CheckWindow::OnCommand(WORD code) {
 }
 
 HBRUSH CheckWindow::OnColour(HDC dc) {
-  SetBkMode(dc, TRANSPARENT);
-  return Owner().Background();
+  return OnSurface(dc, box_.ForeColor());
 }
 
 }  // namespace trovex::win32

@@ -76,12 +76,16 @@ class OptionWindow : public NativeControl {
  public:
   OptionWindow(OptionButton& model, FormWindow& form);
   void OnCommand(WORD code) override;
+  // The arrow keys choose the next one of the group, round and round.
+  bool OnKey(WPARAM key) override;
   HBRUSH OnColour(HDC dc) override;
 
  protected:
   void MirrorProperty(Property property) override;
 
  private:
+  void Choose();
+
   OptionButton& option_;
 };
 
@@ -116,6 +120,7 @@ class TextBoxWindow : public NativeControl {
   TextBoxWindow(TextBox& model, FormWindow& form);
   ~TextBoxWindow() override;
   void Flush() override;
+  void Recolour() override;
   void OnCommand(WORD code) override;
   HBRUSH OnColour(HDC dc) override;
   bool OnKey(WPARAM key) override;
@@ -238,13 +243,18 @@ class GridWindow : public NativeControl {
   void Flush() override;
   bool OnNotify(NMHDR& header, LRESULT& result) override;
   void OnPartNotify(const NMHDR& header) override;
+  void OnInput(UINT message) override;
+  bool OnKey(WPARAM key) override;
   void Rescale() override;
+  void Recolour() override;
 
  protected:
   void MirrorProperty(Property property) override;
   Font ModelFont() const override { return grid_.GetFont(); }
 
  private:
+  static LRESULT CALLBACK TitleRow(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
+                                   DWORD_PTR data);
   void MakeColumns();
   void ShowColumns();
   void ShowSelection();
@@ -254,13 +264,16 @@ class GridWindow : public NativeControl {
   void OnSelected(int item);
   void OnClicked(int item);
   void OnActivated(int item);
+  int FindItem(const NMLVFINDITEMW& wish) const;
+  void CopyRow() const;
   void Choose(int item);
 
   Grid& grid_;
   bool stale_ = true;
   bool showing_columns_ = false;
-  int selected_ = -1;  // the item that the window shows as selected, as far as is known
-  int chosen_by_press_ = -1;
+  int selected_ = -1;         // the item that the window shows as selected, as far as is known
+  bool pressed_ = false;      // by the mouse, rather than the keyboard, came what came last
+  int chosen_by_press_ = -1;  // the item whose click is still to come
 };
 
 }  // namespace trovex::win32

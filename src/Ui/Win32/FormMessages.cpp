@@ -1,8 +1,6 @@
 // The one window procedure: it routes.
 #include <windowsx.h>
 
-#include <algorithm>
-
 #include "Ui/Win32/FormWindow.h"
 #include "Ui/Win32/SystemMenu.h"
 #include "Ui/Win32/Win32View.h"
@@ -13,7 +11,8 @@
 namespace trovex::win32 {
 namespace {
 
-constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, from Windows 8.1 on
+constexpr UINT kDpiChanged = 0x02E0;        // WM_DPICHANGED, from Windows 8.1 on
+constexpr UINT kGetDpiScaledSize = 0x02E4;  // WM_GETDPISCALEDSIZE, from Windows 10 on
 
 // Of the many reasons for which the system tells of devices those after which a drive may hold
 // something else.
@@ -58,6 +57,9 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
       if (LOWORD(w) == WA_INACTIVE) left_ = true;
       if (LOWORD(w) != WA_INACTIVE && left_) RequestDrives();
       break;
+    case kNamesMessage:
+      for (const auto& control : controls_) control->TellName();
+      return 0;
     case WM_CLOSE:
       Run([this] { form_.Close(); });
       return 0;
@@ -76,10 +78,27 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
     case kDpiChanged:
       OnDpiChanged(HIWORD(w), *reinterpret_cast<const RECT*>(l));
       return 0;
+    case kGetDpiScaledSize:
+      if (SizeAt(static_cast<int>(w), *reinterpret_cast<SIZE*>(l))) return TRUE;
+      break;
+    case WM_SYSCOLORCHANGE:
+      Recolour();
+      return 0;
+    case WM_SETTINGCHANGE:
+      if (w == SPI_SETHIGHCONTRAST) Recolour();
+      break;
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT:
       OnPaint();
+      return 0;
+    case WM_SETFOCUS:
+      PassFocusOn();
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (w != FALSE) Run(form_.on_session_end);
       return 0;
     case WM_MOUSEMOVE:
       Run(form_.on_mouse_move);
@@ -147,7 +166,7 @@ bool FormWindow::OnKeyMessage(const MSG& message) {
   }
   if (focused != nullptr && focused->OnKey(message.wParam)) return true;
   const int key = static_cast<int>(message.wParam);
-  if (key == kKeyEscape && form_.on_key_press) {
+  if ((key == kKeyEscape || key == kKeyEnter) && form_.on_key_press) {
     Run([&] { form_.on_key_press(key); });
     return true;
   }
@@ -156,24 +175,6 @@ bool FormWindow::OnKeyMessage(const MSG& message) {
     return true;
   }
   return false;
-}
-
-// The next control in the order of the Tab key that a user can reach.
-void FormWindow::MoveFocus(bool backwards) {
-  std::vector<NativeControl*> stops;
-  for (const auto& control : controls_) {
-    const HWND window = control->Handle();
-    const bool stop = control->TakesFocus() && IsWindowVisible(window) && IsWindowEnabled(window);
-    if (stop) stops.push_back(control.get());
-  }
-  if (stops.empty()) return;
-  std::stable_sort(stops.begin(), stops.end(), [](const auto* a, const auto* b) {
-    return a->Model().TabOrder() < b->Model().TabOrder();
-  });
-  if (backwards) std::reverse(stops.begin(), stops.end());
-  const auto at = std::find(stops.begin(), stops.end(), Of(GetFocus()));
-  const bool last = at == stops.end() || at + 1 == stops.end();
-  ::SetFocus((last ? stops.front() : *(at + 1))->Handle());
 }
 
 }  // namespace trovex::win32

@@ -38,8 +38,8 @@ void RegisterOnce(WNDPROC procedure) {
 
 FormWindow::FormWindow(Form& form, Win32View& view) : form_(form), view_(view) {
   RegisterOnce(Procedure);
-  background_ = CreateSolidBrush(NativeColour(form.BackColor()));
-  CreateWindowAndControls();
+  background_ = CreateSolidBrush(GetShared().colours.Surface(form.BackColor()));
+  CreateWindowOfForm();
 }
 
 FormWindow::~FormWindow() {
@@ -48,7 +48,7 @@ FormWindow::~FormWindow() {
   DeleteObject(background_);
 }
 
-void FormWindow::CreateWindowAndControls() {
+void FormWindow::CreateWindowOfForm() {
   scale_.dpi = SystemDpi();
   handle_ = CreateWindowExW(ExtendedStyleOf(form_), kClass, Wide(form_.Caption()), StyleOf(form_),
                             CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr,
@@ -56,6 +56,13 @@ void FormWindow::CreateWindowAndControls() {
   scale_.dpi = DpiOf(handle_);
   MirrorSystemMenu(handle_, form_);
   PlaceWindow();
+}
+
+// Only when they are to be seen: a form that lends its controls as tools never has any, and one
+// that is being loaded changes most of them more than once.
+void FormWindow::NeedControls() {
+  if (controls_made_) return;
+  controls_made_ = true;
   for (const auto& control : form_.Controls()) {
     auto window = CreateNativeControl(*control, *this);
     if (!window) continue;
@@ -63,6 +70,7 @@ void FormWindow::CreateWindowAndControls() {
     controls_.push_back(std::move(window));
   }
   LowerContainers();
+  PostMessageW(handle_, kNamesMessage, 0, 0);
 }
 
 // What stands on a container lies above it.
@@ -79,7 +87,12 @@ Shared& FormWindow::GetShared() const {
   return view_.GetShared();
 }
 
-NativeControl* FormWindow::Of(const Control& control) const {
+NativeControl* FormWindow::Of(const Control& control) {
+  NeedControls();
+  return Known(control);
+}
+
+NativeControl* FormWindow::Known(const Control& control) const {
   const auto found = by_model_.find(&control);
   return found == by_model_.end() ? nullptr : found->second;
 }
@@ -93,10 +106,10 @@ NativeControl* FormWindow::Of(HWND window) const {
 
 void FormWindow::Changed(Control& control, Property property) {
   if (&control == &form_) return MirrorForm(property);
-  if (NativeControl* window = Of(control)) {
+  if (NativeControl* window = Known(control)) {
     if (property == Property::kDesign) return MakeAnew(*window);
     window->Mirror(property);
-  } else {
+  } else if (controls_made_) {
     InvalidateRect(handle_, nullptr, TRUE);  // the form draws it
   }
 }
@@ -109,7 +122,9 @@ void FormWindow::MakeAnew(NativeControl& former) {
   const bool focused = GetFocus() == former.Handle();
   const auto place = std::find_if(controls_.begin(), controls_.end(),
                                   [&](const auto& control) { return control.get() == &former; });
+  const bool remembered = focused_ == &former;
   *place = CreateNativeControl(model, *this);
+  if (remembered) focused_ = place->get();
   by_model_[&model] = place->get();
   SetWindowPos((*place)->Handle(), above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -129,44 +144,72 @@ void FormWindow::MirrorForm(Property property) {
       MirrorSystemMenu(handle_, form_);
       break;
     case Property::kVisible:
-      Flush();
-      ShowWindow(handle_, form_.Visible() ? SW_SHOW : SW_HIDE);
-      if (form_.Visible()) UpdateWindow(handle_);
+      form_.Visible() ? Appear() : Disappear();
       break;
     default:
       InvalidateRect(handle_, nullptr, TRUE);
   }
 }
 
+void FormWindow::Appear() {
+  NeedControls();
+  Flush();
+  ShowWindow(handle_, SW_SHOW);
+  UpdateWindow(handle_);
+}
+
+void FormWindow::Disappear() {
+  view_.Leaves(handle_);
+  ShowWindow(handle_, SW_HIDE);
+  focused_ = nullptr;
+}
+
+void FormWindow::Abandon() {
+  abandoned_ = true;
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+  Disappear();
+}
+
 // The model's outer size stands for its client area; the system's frame comes on top of that.
 RECT FormWindow::OuterRectangle() const {
   RECT outer = {0, 0, scale_.Pixels(form_.ScaleWidth()), scale_.Pixels(form_.ScaleHeight())};
-  AdjustWindowRectEx(&outer, StyleOf(form_), FALSE, ExtendedStyleOf(form_));
+  outer = WithFrame(outer, StyleOf(form_), ExtendedStyleOf(form_), scale_.dpi);
   OffsetRect(&outer, scale_.Pixels(form_.Left()) - outer.left,
              scale_.Pixels(form_.Top()) - outer.top);
   return outer;
 }
 
 void FormWindow::PlaceWindow() {
-  if (placing_ || IsIconic(handle_)) return;
+  if (placing_ || IsIconic(handle_) || IsZoomed(handle_)) return;
   placing_ = true;
   const RECT at = OuterRectangle();
+  // What fits already keeps the frame that the system gave it.
+  const UINT size = FitsClient() ? SWP_NOSIZE : 0;
   SetWindowPos(handle_, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
-               SWP_NOZORDER | SWP_NOACTIVATE);
+               SWP_NOZORDER | SWP_NOACTIVATE | size);
   placing_ = false;
+}
+
+bool FormWindow::FitsClient() const {
+  RECT client;
+  GetClientRect(handle_, &client);
+  return client.right == scale_.Pixels(form_.ScaleWidth()) &&
+         client.bottom == scale_.Pixels(form_.ScaleHeight());
 }
 
 void FormWindow::OnSize(WPARAM kind) {
   form_.SetMinimised(kind == SIZE_MINIMIZED);
   if (kind == SIZE_MINIMIZED) return;
-  if (!placing_) {
-    RECT client;
-    GetClientRect(handle_, &client);
-    const double width = scale_.Twips(client.right) + form_.Width() - form_.ScaleWidth();
-    const double height = scale_.Twips(client.bottom) + form_.Height() - form_.ScaleHeight();
-    Run([&] { form_.Resize(width, height); });
-  }
+  if (!placing_) TellSize();
   InvalidateRect(handle_, nullptr, TRUE);
+}
+
+void FormWindow::TellSize() {
+  RECT client;
+  GetClientRect(handle_, &client);
+  const double width = scale_.Twips(client.right) + form_.Width() - form_.ScaleWidth();
+  const double height = scale_.Twips(client.bottom) + form_.Height() - form_.ScaleHeight();
+  Run([&] { form_.Resize(width, height); });
 }
 
 void FormWindow::OnMove() {
@@ -182,20 +225,40 @@ void FormWindow::OnMove() {
 void FormWindow::OnDpiChanged(int dpi, const RECT& proposed) {
   scale_.dpi = dpi;
   placing_ = true;
-  form_.SetLeft(scale_.Twips(proposed.left));
-  form_.SetTop(scale_.Twips(proposed.top));
+  SetWindowPos(handle_, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,
+               proposed.bottom - proposed.top, SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
-  PlaceWindow();
+  OnMove();
   for (const auto& control : controls_) control->Rescale();
+  if (!IsIconic(handle_)) TellSize();
   Flush();
   InvalidateRect(handle_, nullptr, TRUE);
+}
+
+// The system would scale the frame with the rest, and propose a rectangle that is off by a few
+// pixels.
+bool FormWindow::SizeAt(int dpi, SIZE& size) const {
+  if (IsIconic(handle_) || IsZoomed(handle_)) return false;
+  const Scale there{dpi};
+  const RECT client = {0, 0, there.Pixels(form_.ScaleWidth()), there.Pixels(form_.ScaleHeight())};
+  const RECT outer = WithFrame(client, StyleOf(form_), ExtendedStyleOf(form_), dpi);
+  size = {outer.right - outer.left, outer.bottom - outer.top};
+  return true;
+}
+
+void FormWindow::Recolour() {
+  GetShared().colours.Refresh();
+  DeleteObject(background_);
+  background_ = CreateSolidBrush(GetShared().colours.Surface(form_.BackColor()));
+  for (const auto& control : controls_) control->Recolour();
+  RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void FormWindow::Repaint(Control& control) {
   Flush();
   if (&control == &form_) {
     RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-  } else if (NativeControl* window = Of(control)) {
+  } else if (NativeControl* window = Known(control)) {
     UpdateWindow(window->Handle());
   }
 }
@@ -207,6 +270,7 @@ void FormWindow::RequestFlush() {
 
 void FormWindow::Flush() {
   for (const auto& control : controls_) control->Flush();
+  MendFocus();
 }
 
 void FormWindow::Draw(const Stroke& stroke) {
@@ -216,8 +280,8 @@ void FormWindow::Draw(const Stroke& stroke) {
   }
   const HPEN pen = CreatePen(PS_SOLID, 1, NativeColour(stroke.colour));
   const HGDIOBJ before = SelectObject(painting_, pen);
-  MoveToEx(painting_, scale_.Pixels(stroke.x1), scale_.Pixels(stroke.y1), nullptr);
-  LineTo(painting_, scale_.Pixels(stroke.x2), scale_.Pixels(stroke.y2));
+  MoveToEx(painting_, scale_.PixelAt(stroke.x1), scale_.PixelAt(stroke.y1), nullptr);
+  LineTo(painting_, scale_.PixelAt(stroke.x2), scale_.PixelAt(stroke.y2));
   SelectObject(painting_, before);
   DeleteObject(pen);
 }
@@ -235,10 +299,11 @@ void FormWindow::OnPaint() {
 }
 
 void FormWindow::Run(const Event& reaction) {
+  if (abandoned_ || view_.Failed()) return;
   try {
     Raise(reaction);
-  } catch (const RuntimeError&) {
-    view_.Fail(std::current_exception());
+  } catch (const RuntimeError& error) {
+    view_.Fail(error);
   }
 }
 

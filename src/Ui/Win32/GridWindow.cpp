@@ -1,9 +1,12 @@
 #include "Platform/Win32/Names.h"
+#include "Ui/Win32/Clipboard.h"
 #include "Ui/Win32/ControlWindows.h"
 #include "Ui/Win32/FormWindow.h"
 
 namespace trovex::win32 {
 namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
 
 int FormatOf(Alignment alignment) {
   switch (alignment) {
@@ -27,7 +30,18 @@ GridWindow::GridWindow(Grid& model, FormWindow& form) : NativeControl(model, for
   Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0,
        LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
   MakeColumns();
+  SetWindowSubclass(reinterpret_cast<HWND>(Send(LVM_GETHEADER)), TitleRow, kSubclassId,
+                    reinterpret_cast<DWORD_PTR>(this));
   Flush();
+}
+
+// The title row is a window of its own, but part of the table to the user.
+LRESULT CALLBACK GridWindow::TitleRow(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
+                                      DWORD_PTR data) {
+  const auto* table = reinterpret_cast<const GridWindow*>(data);
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, TitleRow, kSubclassId);
+  if (message == WM_MOUSEMOVE) table->Owner().Run(table->grid_.on_mouse_move);
+  return DefSubclassProc(window, message, w, l);
 }
 
 void GridWindow::MakeColumns() {
@@ -76,6 +90,14 @@ void GridWindow::Rescale() {
   NativeControl::Rescale();
   stale_ = true;
   Owner().RequestFlush();
+}
+
+// Some list views keep the colours that they began with.
+void GridWindow::Recolour() {
+  NativeControl::Recolour();
+  Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOW)));
+  Send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOW)));
+  Send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOWTEXT)));
 }
 
 void GridWindow::Flush() {
@@ -128,7 +150,7 @@ void GridWindow::Choose(int item) {
 void GridWindow::OnSelected(int item) {
   selected_ = item;
   if (item + 1 == grid_.Row()) return;
-  chosen_by_press_ = item;
+  if (pressed_) chosen_by_press_ = item;
   Choose(item);
 }
 
@@ -140,9 +162,31 @@ void GridWindow::OnClicked(int item) {
   chosen_by_press_ = -1;
 }
 
+void GridWindow::OnInput(UINT message) {
+  pressed_ = message != WM_KEYDOWN;
+  if (pressed_) chosen_by_press_ = -1;
+}
+
+// Not every system's list names the row that the Enter key is pressed on: it is the current one.
+// The mouse means the row under it.
 void GridWindow::OnActivated(int item) {
-  if (item < 0) return;
-  Owner().Run(grid_.on_dbl_click);
+  if (item >= 0 || !pressed_) Owner().Run(grid_.on_dbl_click);
+}
+
+bool GridWindow::OnKey(WPARAM key) {
+  if (key != 'C' || !ControlHeld()) return false;
+  CopyRow();
+  return true;
+}
+
+void GridWindow::CopyRow() const {
+  if (grid_.Row() >= grid_.FixedRows()) CopyToClipboard(Handle(), grid_.RowText(grid_.Row()));
+}
+
+int GridWindow::FindItem(const NMLVFINDITEMW& wish) const {
+  constexpr UINT kText = LVFI_STRING | LVFI_PARTIAL;
+  if ((wish.lvfi.flags & kText) == 0 || wish.lvfi.psz == nullptr) return -1;
+  return grid_.FindRow(FromWide(wish.lvfi.psz), wish.iStart + 1) - 1;
 }
 
 // The current row is highlighted whether or not the table has the focus.
@@ -175,6 +219,9 @@ bool GridWindow::OnNotify(NMHDR& header, LRESULT& result) {
       return true;
     case LVN_ITEMACTIVATE:
       OnActivated(reinterpret_cast<NMITEMACTIVATE&>(header).iItem);
+      return true;
+    case LVN_ODFINDITEMW:
+      result = FindItem(reinterpret_cast<const NMLVFINDITEMW&>(header));
       return true;
     default:
       return false;

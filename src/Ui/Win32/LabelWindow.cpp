@@ -80,10 +80,9 @@ RECT LabelWindow::Rectangle() const {
 }
 
 HBRUSH LabelWindow::OnColour(HDC dc) {
-  SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, NativeColour(label_.ForeColor()));
+  const HBRUSH plain = OnSurface(dc, label_.ForeColor());
   const RECT at = Rectangle();
-  if (!CoversPicture(Owner().Model(), at, GetScale())) return Owner().Background();
+  if (!CoversPicture(Owner().Model(), at, GetScale(), GetShared())) return plain;
   // The text stands on the picture: what the form shows here is drawn first, at its own place.
   POINT origin;
   SetViewportOrgEx(dc, -at.left, -at.top, &origin);

@@ -30,15 +30,19 @@ NativeControl::~NativeControl() {
 
 void NativeControl::Create(const wchar_t* window_class, DWORD style, DWORD extended_style) {
   const RECT at = Rectangle();
-  handle_ = CreateWindowExW(extended_style, window_class, L"", style | WS_CHILD | WS_CLIPSIBLINGS,
-                            at.left, at.top, at.right - at.left, at.bottom - at.top, form_.Handle(),
-                            nullptr, GetModuleHandleW(nullptr), nullptr);
+  const DWORD shown = model_.Visible() && OnVisiblePage(model_) ? WS_VISIBLE : 0;
+  const DWORD enabled = model_.Enabled() ? 0 : WS_DISABLED;
+  style |= WS_CHILD | WS_CLIPSIBLINGS | shown | enabled;
+  handle_ = CreateWindowExW(extended_style, window_class, L"", style, at.left, at.top,
+                            at.right - at.left, at.bottom - at.top, form_.Handle(), nullptr,
+                            GetModuleHandleW(nullptr), nullptr);
   SetWindowSubclass(handle_, Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
-  EnableWindow(handle_, model_.Enabled());
-  SetAccessibleName(handle_, model_.AccessibleName());
   ShowToolTip(handle_, model_.ToolTip());
   Rescale();
-  ApplyVisible();
+}
+
+void NativeControl::TellName() {
+  SetAccessibleName(handle_, model_.AccessibleName());
 }
 
 void NativeControl::ApplyVisible() {
@@ -55,6 +59,7 @@ void NativeControl::Mirror(Property property) {
     case Property::kEnabled:
       EnableWindow(handle_, model_.Enabled());
       InvalidateRect(handle_, nullptr, TRUE);
+      form_.RequestFlush();  // it may have had the focus
       break;
     case Property::kPlace:
       Rescale();
@@ -79,7 +84,19 @@ void NativeControl::Rescale() {
   SetWindowPos(handle_, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
                SWP_NOZORDER | SWP_NOACTIVATE);
   const HFONT font = GetShared().fonts.Get(ModelFont(), GetScale());
-  Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), IsWindowVisible(handle_));
+}
+
+// What the system draws wants to be told; the rest is drawn anew.
+void NativeControl::Recolour() {
+  Send(WM_SYSCOLORCHANGE);
+  InvalidateRect(handle_, nullptr, TRUE);
+}
+
+HBRUSH NativeControl::OnSurface(HDC dc, unsigned text) const {
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, GetShared().colours.SurfaceText(text, form_.Model().BackColor()));
+  return form_.Background();
 }
 
 Scale NativeControl::GetScale() const {
@@ -95,6 +112,14 @@ LRESULT CALLBACK NativeControl::Subclass(HWND window, UINT message, WPARAM w, LP
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(window, Subclass, kSubclassId);
     control->handle_ = nullptr;
+  } else if (message == WM_SETFOCUS) {
+    control->form_.Focused(*control);
+    control->getting_focus_ = true;
+    const LRESULT result = DefSubclassProc(window, message, w, l);
+    control->getting_focus_ = false;
+    return result;
+  } else if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_KEYDOWN) {
+    control->OnInput(message);
   } else if (message == WM_MOUSEMOVE) {
     // Windows repeats the message where nothing has moved.
     const POINT at = {GET_X_LPARAM(l), GET_Y_LPARAM(l)};

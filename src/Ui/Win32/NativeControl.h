@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "Ui/Win32/Colours.h"
 #include "Ui/Win32/Fonts.h"
 #include "Ui/Win32/Pictures.h"
 
@@ -12,6 +13,7 @@ class FormWindow;
 
 // What the windows of a view share.
 struct Shared {
+  Colours colours;
   Fonts fonts;
   ResourceIcons icons;
   ResourceBitmaps bitmaps;
@@ -37,6 +39,11 @@ class NativeControl {
   virtual void Flush() {}
   // Place, font and pictures at the form's present scale.
   virtual void Rescale();
+  // The system's colours are others now.
+  virtual void Recolour();
+
+  // Says what the control is to those who cannot see it.
+  void TellName();
 
   // Messages that the form's procedure routes here. A result of false leaves the message alone.
   virtual void OnCommand(WORD /*code*/) {}
@@ -49,6 +56,8 @@ class NativeControl {
   virtual void OnMeasure(MEASUREITEMSTRUCT& /*item*/) {}
   // Colours of a static or edit window; null for the usual ones.
   virtual HBRUSH OnColour(HDC /*dc*/) { return nullptr; }
+  // The left button or a key went down on the window, which has not acted on it yet.
+  virtual void OnInput(UINT /*message*/) {}
   // A key pressed while the control has the focus; true if it is used up.
   virtual bool OnKey(WPARAM /*key*/) { return false; }
 
@@ -59,7 +68,13 @@ class NativeControl {
   virtual Font ModelFont() const { return {}; }
   // The window's rectangle within the form's client area.
   virtual RECT Rectangle() const;
+  // The Ctrl key alone, without the Alt that makes other characters with it.
+  static bool ControlHeld() { return GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0; }
   bool Mirroring() const { return mirroring_; }
+  // True while the window is told that it gets the focus.
+  bool GettingFocus() const { return getting_focus_; }
+  // For a text of that colour on the form itself: prepares the drawing, gives the background.
+  HBRUSH OnSurface(HDC dc, unsigned text) const;
   FormWindow& Owner() const { return form_; }
   Scale GetScale() const;
   Shared& GetShared() const;
@@ -76,6 +91,7 @@ class NativeControl {
   FormWindow& form_;
   HWND handle_ = nullptr;
   bool mirroring_ = false;
+  bool getting_focus_ = false;
   POINT last_mouse_ = {-1, -1};
 };
 

@@ -3,10 +3,16 @@
 #include "Ui/Win32/FormWindow.h"
 
 namespace trovex::win32 {
+namespace {
+
+constexpr UINT kDontClick = 0x00F8;  // BM_SETDONTCLICK, from Windows Vista on
+
+}  // namespace
 
 OptionWindow::OptionWindow(OptionButton& model, FormWindow& form)
     : NativeControl(model, form), option_(model) {
   Create(L"BUTTON", BS_RADIOBUTTON | WS_TABSTOP);
+  Send(kDontClick, TRUE);
   MirrorProperty(Property::kText);
 }
 
@@ -15,9 +21,13 @@ void OptionWindow::MirrorProperty(Property property) {
   Send(BM_SETCHECK, option_.Value() ? BST_CHECKED : BST_UNCHECKED);
 }
 
+// Systems that cannot be told otherwise report a click when the option gets the focus.
 void OptionWindow::OnCommand(WORD code) {
-  if (code != BN_CLICKED || Mirroring()) return;
-  // A click on the option already chosen is a click all the same.
+  if (code == BN_CLICKED && !Mirroring() && !GettingFocus()) Choose();
+}
+
+// A click on the option already chosen is a click all the same.
+void OptionWindow::Choose() {
   Owner().Run([this] {
     if (option_.Value()) {
       Raise(option_.on_click);
@@ -27,9 +37,18 @@ void OptionWindow::OnCommand(WORD code) {
   });
 }
 
+bool OptionWindow::OnKey(WPARAM key) {
+  const bool forwards = key == VK_DOWN || key == VK_RIGHT;
+  if (!forwards && key != VK_UP && key != VK_LEFT) return false;
+  auto* next = static_cast<OptionWindow*>(Owner().NextOption(*this, forwards));
+  if (next == this) return true;
+  SetFocus(next->Handle());
+  next->Choose();
+  return true;
+}
+
 HBRUSH OptionWindow::OnColour(HDC dc) {
-  SetBkMode(dc, TRANSPARENT);
-  return Owner().Background();
+  return OnSurface(dc, option_.ForeColor());
 }
 
 }  // namespace trovex::win32

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Platform/Win32/Names.h"
+#include "Ui/Win32/Colours.h"
 
 namespace trovex::win32 {
 namespace {

@@ -22,12 +22,10 @@ void PanelWindow::MirrorProperty(Property) {
 
 void PanelWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   RECT area = item.rcItem;
-  FillRect(item.hDC, &area, Owner().Background());
+  FillRect(item.hDC, &area, OnSurface(item.hDC, panel_.ForeColor()));
   DrawEdge(item.hDC, &area, BDR_SUNKENOUTER, BF_RECT);
   InflateRect(&area, -GetScale().Pixels(kMargin), 0);
   SelectObject(item.hDC, GetShared().fonts.Get(ModelFont(), GetScale()));
-  SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, NativeColour(panel_.ForeColor()));
   DrawTextW(item.hDC, Wide(panel_.Caption()), -1, &area,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }

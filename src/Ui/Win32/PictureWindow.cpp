@@ -20,7 +20,11 @@ void PictureWindow::MirrorProperty(Property) {
 }
 
 void PictureWindow::OnDraw(const DRAWITEMSTRUCT& item) {
-  const HBRUSH brush = CreateSolidBrush(NativeColour(box_.BackColor()));
+  // A colour of its own is what it is there to show.
+  const bool forms = box_.BackColor() == Owner().Model().BackColor();
+  const Colours& colours = GetShared().colours;
+  const HBRUSH brush =
+      CreateSolidBrush(forms ? colours.Surface(box_.BackColor()) : NativeColour(box_.BackColor()));
   FillRect(item.hDC, &item.rcItem, brush);
   DeleteObject(brush);
   if (icon_.Get() == nullptr) return;

@@ -10,7 +10,10 @@ namespace trovex::win32 {
 namespace {
 
 constexpr wchar_t kClass[] = L"TrovexPreview";
-constexpr int kScrollStep = 60;  // pixels
+constexpr int kScrollStep = 60;      // pixels
+constexpr double kLeastPage = 3000;  // twips, of its height
+constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, from Windows 8.1 on
 const Font kButtonFont;
 
 void RegisterOnce(WNDPROC procedure) {
@@ -49,7 +52,7 @@ RECT Placed(HWND owner) {
 
 }  // namespace
 
-PreviewWindow::PreviewWindow(const Preview& preview, Win32View& view, HWND owner)
+PreviewWindow::PreviewWindow(const Preview& preview, Win32View& view)
     : preview_(preview),
       view_(view),
       state_(preview.pages),
@@ -58,14 +61,17 @@ PreviewWindow::PreviewWindow(const Preview& preview, Win32View& view, HWND owner
   const Text& title = preview.pages.title;
   const Text caption = preview.texts.caption + (title.empty() ? Text() : u" - " + title) + u" - " +
                        preview.application;
-  const RECT at = Placed(owner);
-  window_ = CreateWindowExW(0, kClass, Wide(caption), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                            at.left, at.top, at.right - at.left, at.bottom - at.top, owner, nullptr,
-                            GetModuleHandleW(nullptr), this);
+  window_ = CreateWindowExW(0, kClass, Wide(caption), kStyle, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
+                            nullptr, nullptr, GetModuleHandleW(nullptr), this);
   scale_.dpi = DpiOf(window_);
   canvas_ = CreateWindowExW(WS_EX_CLIENTEDGE, kClass, L"", WS_CHILD | WS_VISIBLE | WS_VSCROLL, 0, 0,
                             0, 0, window_, nullptr, GetModuleHandleW(nullptr), this);
   CreateButtons();
+}
+
+void PreviewWindow::Show() {
+  const RECT at = Placed(GetWindow(window_, GW_OWNER));
+  MoveWindow(window_, at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
   PlaceChildren();
   ShowState();
   ShowWindow(window_, SW_SHOW);
@@ -136,10 +142,10 @@ LRESULT CALLBACK PreviewWindow::Procedure(HWND window, UINT message, WPARAM w, L
   }
   auto* self = reinterpret_cast<PreviewWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   return self == nullptr || self->canvas_ == nullptr ? DefWindowProcW(window, message, w, l)
-                                                     : self->Handle(window, message, w, l);
+                                                     : self->OnMessage(window, message, w, l);
 }
 
-LRESULT PreviewWindow::Handle(HWND window, UINT message, WPARAM w, LPARAM l) {
+LRESULT PreviewWindow::OnMessage(HWND window, UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_COMMAND:
       if (HIWORD(w) == BN_CLICKED) Run([&] { OnCommand(LOWORD(w)); });
@@ -150,14 +156,25 @@ LRESULT PreviewWindow::Handle(HWND window, UINT message, WPARAM w, LPARAM l) {
     case WM_SIZE:
       if (window == window_) PlaceChildren();
       return 0;
+    case WM_GETMINMAXINFO:
+      reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = LeastSize();
+      return 0;
+    case kDpiChanged:
+      OnDpiChanged(HIWORD(w), *reinterpret_cast<const RECT*>(l));
+      return 0;
     case WM_MOUSEWHEEL:
       OnWheel(GET_WHEEL_DELTA_WPARAM(w));
       return 0;
     case WM_VSCROLL:
       OnScroll(LOWORD(w));
       return 0;
-    case WM_LBUTTONDOWN:
+    case WM_ACTIVATE:
+      if (LOWORD(w) == WA_INACTIVE && IsChild(window_, GetFocus())) focused_ = GetFocus();
+      break;
     case WM_SETFOCUS:
+      if (window == window_) SetFocus(IsWindowEnabled(focused_) ? focused_ : canvas_);
+      return 0;
+    case WM_LBUTTONDOWN:
       SetFocus(canvas_);
       return 0;
     case WM_ERASEBKGND:
@@ -171,6 +188,27 @@ LRESULT PreviewWindow::Handle(HWND window, UINT message, WPARAM w, LPARAM l) {
       break;
   }
   return DefWindowProcW(window, message, w, l);
+}
+
+// All buttons can be reached, and some of the page.
+POINT PreviewWindow::LeastSize() const {
+  const RECT client = {0, 0, label_left_, bar_height_ + scale_.Pixels(kLeastPage)};
+  const RECT outer = WithFrame(client, kStyle, 0, scale_.dpi);
+  return {outer.right - outer.left, outer.bottom - outer.top};
+}
+
+void PreviewWindow::OnDpiChanged(int dpi, const RECT& proposed) {
+  scale_.dpi = dpi;
+  for (HWND button : buttons_) DestroyWindow(button);
+  buttons_.clear();
+  DestroyWindow(label_);
+  CreateButtons();
+  SetWindowPos(window_, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,
+               proposed.bottom - proposed.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceChildren();
+  ShowState();
+  focused_ = nullptr;
+  if (GetActiveWindow() == window_) SetFocus(canvas_);
 }
 
 bool PreviewWindow::OnMessage(MSG& message) {
@@ -370,9 +408,9 @@ void PreviewWindow::PaintSheets(HDC dc, const RECT& area) {
 void PreviewWindow::Run(const std::function<void()>& reaction) {
   try {
     reaction();
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& error) {
+    view_.Fail(error);
     open_ = false;
-    view_.Fail(std::current_exception());
   }
 }
 

@@ -11,12 +11,15 @@ class Win32View;
 
 class PreviewWindow {
  public:
-  // The window is shown at once; `owner` may be null.
-  PreviewWindow(const Preview& preview, Win32View& view, HWND owner);
+  // The window is not shown yet.
+  PreviewWindow(const Preview& preview, Win32View& view);
   ~PreviewWindow();
   PreviewWindow(const PreviewWindow&) = delete;
   PreviewWindow& operator=(const PreviewWindow&) = delete;
 
+  HWND Handle() const { return window_; }
+  // Shows the window on the screen of its owner.
+  void Show();
   // False once the user has closed it.
   bool Open() const { return open_; }
   // A message of the thread's; true if it is used up.
@@ -39,9 +42,11 @@ class PreviewWindow {
   };
 
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
-  LRESULT Handle(HWND window, UINT message, WPARAM w, LPARAM l);
+  LRESULT OnMessage(HWND window, UINT message, WPARAM w, LPARAM l);
 
   void CreateButtons();
+  POINT LeastSize() const;
+  void OnDpiChanged(int dpi, const RECT& proposed);
   void PlaceChildren();
   HWND AddButton(int command, const Text& caption, DWORD style, int& left);
   bool OnKey(WPARAM key);
@@ -68,6 +73,7 @@ class PreviewWindow {
   HWND window_ = nullptr;
   HWND canvas_ = nullptr;
   HWND label_ = nullptr;
+  HWND focused_ = nullptr;  // had the focus when another window took it
   std::vector<HWND> buttons_;
   int bar_height_ = 0;
   int label_left_ = 0;

@@ -3,14 +3,14 @@
 namespace trovex::win32 {
 namespace {
 
-constexpr unsigned kDesktopColour = 0x80000000;
-
 // Present from Windows 10 on.
 using GetDpiForWindowFunction = UINT(WINAPI*)(HWND);
+using AdjustForDpiFunction = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
 
-GetDpiForWindowFunction FindGetDpiForWindow() {
-  const auto found = GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
-  return reinterpret_cast<GetDpiForWindowFunction>(reinterpret_cast<void*>(found));
+template <typename Function>
+Function Find(const char* name) {
+  const auto found = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);
+  return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
 }
 
 }  // namespace
@@ -23,14 +23,18 @@ int SystemDpi() {
 }
 
 int DpiOf(HWND window) {
-  static const GetDpiForWindowFunction get_dpi = FindGetDpiForWindow();
+  static const auto get_dpi = Find<GetDpiForWindowFunction>("GetDpiForWindow");
   const UINT dpi = get_dpi != nullptr ? get_dpi(window) : 0;
   return dpi != 0 ? static_cast<int>(dpi) : SystemDpi();
 }
 
-COLORREF NativeColour(unsigned colour) {
-  if ((colour & kDesktopColour) == 0) return colour;
-  return GetSysColor(static_cast<int>(colour & 0xFF));
+RECT WithFrame(RECT client, DWORD style, DWORD extended_style, int dpi) {
+  static const auto for_dpi = Find<AdjustForDpiFunction>("AdjustWindowRectExForDpi");
+  if (for_dpi == nullptr ||
+      !for_dpi(&client, style, FALSE, extended_style, static_cast<UINT>(dpi))) {
+    AdjustWindowRectEx(&client, style, FALSE, extended_style);
+  }
+  return client;
 }
 
 }  // namespace trovex::win32

@@ -12,6 +12,9 @@ struct Scale {
   int dpi = 96;
 
   int Pixels(double twips) const { return static_cast<int>(std::lround(twips * dpi / 1440)); }
+  // The pixel that the point lies in: two of them that are a pixel apart never fall together, as
+  // they may when they are rounded.
+  int PixelAt(double twips) const { return static_cast<int>(std::floor(twips * dpi / 1440)); }
   double Twips(int pixels) const { return pixels * 1440.0 / dpi; }
   int Points(double points) const { return static_cast<int>(std::lround(points * dpi / 72)); }
   // Edges are rounded, not measures: what touches in twips touches in pixels.
@@ -25,7 +28,7 @@ struct Scale {
 int DpiOf(HWND window);
 int SystemDpi();
 
-// A colour of the program's, with colours of the desktop resolved.
-COLORREF NativeColour(unsigned colour);
+// A client area with the frame that a window of these styles has at that resolution.
+RECT WithFrame(RECT client, DWORD style, DWORD extended_style, int dpi);
 
 }  // namespace trovex::win32

@@ -9,8 +9,8 @@ namespace {
 
 constexpr double kCaptionIndent = 120;  // twips, from a frame's left edge
 
-void PaintShape(HDC dc, const Control& shape, const RECT& at) {
-  const HBRUSH brush = CreateSolidBrush(NativeColour(shape.BackColor()));
+void PaintShape(HDC dc, const Control& shape, const RECT& at, const Shared& shared) {
+  const HBRUSH brush = CreateSolidBrush(shared.colours.Filling(shape.BackColor()));
   FillRect(dc, &at, brush);
   DeleteObject(brush);
 }
@@ -31,6 +31,8 @@ void PaintBitmap(HDC dc, HBITMAP bitmap, const RECT& at) {
 void PaintImage(HDC dc, const Image& image, const RECT& at, Shared& shared) {
   const Picture& picture = image.GetPicture();
   if (picture.source == Picture::Source::kBitmap) {
+    // A picture behind texts makes them hard to read.
+    if (shared.colours.HighContrast()) return;
     return PaintBitmap(dc, shared.bitmaps.Get(picture.name), at);
   }
   const int size = at.bottom - at.top;
@@ -52,7 +54,7 @@ void PaintFrame(HDC dc, const Frame& frame, RECT at, Scale scale, Shared& shared
   DrawEdge(dc, &at, EDGE_ETCHED, BF_RECT);
   RestoreDC(dc, saved);
   SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, NativeColour(frame.ForeColor()));
+  SetTextColor(dc, shared.colours.SurfaceText(frame.ForeColor(), frame.Parent()->BackColor()));
   TextOutW(dc, left, top, Wide(caption), static_cast<int>(caption.size()));
   SelectObject(dc, before);
 }
@@ -65,7 +67,7 @@ void PaintSurface(HDC dc, const Form& form, Scale scale, Shared& shared) {
     const RECT at = scale.Rect(control->GetPlace());
     switch (control->Kind()) {
       case ControlKind::kShape:
-        PaintShape(dc, *control, at);
+        PaintShape(dc, *control, at, shared);
         break;
       case ControlKind::kImage:
         PaintImage(dc, static_cast<const Image&>(*control), at, shared);
@@ -79,7 +81,8 @@ void PaintSurface(HDC dc, const Form& form, Scale scale, Shared& shared) {
   }
 }
 
-bool CoversPicture(const Form& form, const RECT& at, Scale scale) {
+bool CoversPicture(const Form& form, const RECT& at, Scale scale, const Shared& shared) {
+  if (shared.colours.HighContrast()) return false;
   for (const auto& control : form.Controls()) {
     if (control->Kind() != ControlKind::kImage || !control->Visible()) continue;
     const RECT picture = scale.Rect(control->GetPlace());

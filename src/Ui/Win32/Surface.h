@@ -10,7 +10,7 @@ namespace trovex::win32 {
 // table, in coordinates of the client area.
 void PaintSurface(HDC dc, const Form& form, Scale scale, Shared& shared);
 
-// Whether a visible picture of that kind reaches into the rectangle.
-bool CoversPicture(const Form& form, const RECT& at, Scale scale);
+// Whether the rectangle covers a part of a picture that is to be seen.
+bool CoversPicture(const Form& form, const RECT& at, Scale scale, const Shared& shared);
 
 }  // namespace trovex::win32

@@ -35,6 +35,8 @@ Text NativeFilter(Text filter) {
 }  // namespace
 
 BoxAnswer Win32View::ShowBox(const Box& box) {
+  // A key pressed before the box is no answer to it.
+  if (ignoring_ > 0) DropInput();
   return AnswerOf(MessageBoxW(Owner(), Wide(box.text), Wide(box.title),
                               static_cast<UINT>(box.style) | MB_SETFOREGROUND));
 }

@@ -41,13 +41,17 @@ TextBoxWindow::~TextBoxWindow() {
 void TextBoxWindow::MirrorProperty(Property property) {
   if (property == Property::kColour) {
     if (background_ != nullptr) DeleteObject(background_);
-    background_ = CreateSolidBrush(NativeColour(box_.BackColor()));
+    background_ = CreateSolidBrush(GetShared().colours.Field(box_.BackColor()));
     InvalidateRect(Handle(), nullptr, TRUE);
   }
   if (property == Property::kText && !typing_) {
     stale_ = true;
     Owner().RequestFlush();
   }
+}
+
+void TextBoxWindow::Recolour() {
+  MirrorProperty(Property::kColour);
 }
 
 void TextBoxWindow::Flush() {
@@ -60,7 +64,9 @@ void TextBoxWindow::Flush() {
 }
 
 void TextBoxWindow::OnCommand(WORD code) {
-  if (code == EN_KILLFOCUS) Owner().Run(box_.on_lost_focus);
+  // Where another window has taken it, the focus comes back.
+  const bool left = code == EN_KILLFOCUS && IsChild(Owner().Handle(), GetFocus());
+  if (left) Owner().Run(box_.on_lost_focus);
   // What the window shows of the model is no typing.
   if (code != EN_CHANGE || stale_ || box_.Locked()) return;
   const Text typed = TextOf(Handle());
@@ -73,14 +79,20 @@ void TextBoxWindow::OnCommand(WORD code) {
 }
 
 bool TextBoxWindow::OnKey(WPARAM key) {
+  // Older systems do it for texts of one line alone.
+  if (key == 'A' && ControlHeld()) {
+    Send(EM_SETSEL, 0, -1);
+    return true;
+  }
   if (key != VK_RETURN || !box_.on_enter) return false;
   Owner().Run(box_.on_enter);
   return true;
 }
 
 HBRUSH TextBoxWindow::OnColour(HDC dc) {
-  SetBkColor(dc, NativeColour(box_.BackColor()));
-  SetTextColor(dc, NativeColour(box_.ForeColor()));
+  const Colours& colours = GetShared().colours;
+  SetBkColor(dc, colours.Field(box_.BackColor()));
+  SetTextColor(dc, colours.FieldText(box_.ForeColor()));
   return background_;
 }
 

@@ -1,7 +1,6 @@
 #include "Ui/Win32/Win32View.h"
 
 #include "Ui/Win32/ControlWindows.h"
-#include "Ui/Win32/PreviewWindow.h"
 
 namespace trovex::win32 {
 namespace {
@@ -14,13 +13,6 @@ void InitCommonControls() {
 // Present from Windows XP on: a long scan keeps its window instead of a ghost of it.
 void KeepWindowsAlive() {
   DisableProcessWindowsGhosting();
-}
-
-// A quit message left behind would close the box that tells of a failure before it is seen.
-void ForgetQuit() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) {
-  }
 }
 
 }  // namespace
@@ -51,7 +43,7 @@ void Win32View::Detach(Form& form) {
   const auto found = windows_.find(&form);
   if (found == windows_.end()) return;
   // One of its messages may be on its way through the window procedure.
-  ShowWindow(found->second->Handle(), SW_HIDE);
+  found->second->Abandon();
   gone_.push_back(std::move(found->second));
   windows_.erase(found);
 }
@@ -65,15 +57,13 @@ void Win32View::Repaint(Control& control) {
 }
 
 void Win32View::SetFocus(Control& control) {
-  const FormWindow* window = WindowOf(control);
-  NativeControl* native = window == nullptr ? nullptr : window->Of(control);
-  if (native != nullptr && GetFocus() != native->Handle()) ::SetFocus(native->Handle());
+  if (FormWindow* window = WindowOf(control)) window->Focus(control);
 }
 
 void Win32View::SetTopmost(Form& form, bool topmost) {
   if (FormWindow* window = Of(form)) {
     SetWindowPos(window->Handle(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE);
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 }
 
@@ -95,68 +85,6 @@ void Win32View::SetPointer(Pointer pointer) {
 Extent Win32View::ScreenSize() {
   const Scale scale{SystemDpi()};
   return {scale.Twips(GetSystemMetrics(SM_CXSCREEN)), scale.Twips(GetSystemMetrics(SM_CYSCREEN))};
-}
-
-HWND Win32View::Owner() const {
-  const HWND active = GetActiveWindow();
-  return active != nullptr && IsWindowVisible(active) ? active : nullptr;
-}
-
-void Win32View::Fail(std::exception_ptr error) {
-  if (!failure_) failure_ = std::move(error);
-  End();
-  PostQuitMessage(1);
-}
-
-bool Win32View::PumpOne() {
-  MSG message;
-  if (ended_ || GetMessageW(&message, nullptr, 0, 0) <= 0) return false;
-  if (preview_ != nullptr && preview_->OnMessage(message)) return !ended_;
-  if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
-    for (const auto& [form, window] : windows_) {
-      const bool mine = message.hwnd == window->Handle() || IsChild(window->Handle(), message.hwnd);
-      if (mine && window->OnKeyMessage(message)) return !ended_;
-      if (mine) break;
-    }
-  }
-  TranslateMessage(&message);
-  DispatchMessageW(&message);
-  gone_.clear();
-  return !ended_;
-}
-
-void Win32View::Run() {
-  while (PumpOne()) {
-  }
-  gone_.clear();
-  ForgetQuit();
-  if (failure_) std::rethrow_exception(failure_);
-}
-
-void Win32View::RunAlone(const Form* form, const std::function<bool()>& open) {
-  std::vector<HWND> disabled;
-  for (const auto& [other, window] : windows_) {
-    if (other == form || !IsWindowEnabled(window->Handle())) continue;
-    EnableWindow(window->Handle(), FALSE);
-    disabled.push_back(window->Handle());
-  }
-  while (open() && PumpOne()) {
-  }
-  for (HWND window : disabled) EnableWindow(window, TRUE);
-  if (!disabled.empty()) SetActiveWindow(disabled.back());
-  if (ended_) PostQuitMessage(0);
-}
-
-void Win32View::RunModal(Form& form) {
-  // The form may be unloaded meanwhile, with its window: only the list tells that it is there.
-  RunAlone(&form, [&] { return Of(form) != nullptr && form.Visible(); });
-}
-
-void Win32View::ShowPreview(const Preview& preview) {
-  PreviewWindow window(preview, *this, Owner());
-  preview_ = &window;
-  RunAlone(nullptr, [&] { return window.Open(); });
-  preview_ = nullptr;
 }
 
 double Win32View::TextWidth(TextView text, const Font& font) {

@@ -9,6 +9,7 @@
 
 #include "Ui/View.h"
 #include "Ui/Win32/FormWindow.h"
+#include "Ui/Win32/ModalLevel.h"
 #include "Ui/Win32/PagePainter.h"
 
 namespace trovex::win32 {
@@ -24,13 +25,19 @@ class Win32View : public View {
   void Run();
   // Ends the loops, the modal ones too.
   void End() { ended_ = true; }
-  // What a run-time error that no handler catches does.
-  void Fail(std::exception_ptr error);
+  // What a run-time error that no handler catches does: the first one is told to the user while
+  // everything still stands, and ends the program.
+  void Fail(const RuntimeError& error);
+  bool Failed() const { return failure_ != nullptr; }
+  // How the user is told; nothing by default.
+  std::function<void(const RuntimeError&)> on_failure;
 
   Shared& GetShared() { return shared_; }
   PrintMeasure& Measure() { return measure_; }
   Pointer GetPointer() const { return pointer_; }
   FormWindow* Of(const Form& form) const;
+  // A window is about to leave the screen: what waits beneath it is the user's again.
+  void Leaves(HWND window);
 
   void Attach(Form& form) override;
   void Detach(Form& form) override;
@@ -48,16 +55,22 @@ class Win32View : public View {
   FontMeasure MeasureFont(const Font& font) override;
   void ShowPreview(const Preview& preview) override;
   void SetPointer(Pointer pointer) override;
+  void IgnoreInput(bool ignore) override;
   Extent ScreenSize() override;
 
  private:
   FormWindow* WindowOf(Control& control) const;
-  // Window that boxes and dialogs belong to.
+  // The windows of forms on the screen, and that of a preview.
+  std::vector<HWND> OnScreen() const;
+  // Window that boxes and dialogs belong to: the one of those that lies above the others.
   HWND Owner() const;
+  // Takes what the user did, and nobody has seen yet, out of the queue.
+  static void DropInput();
   // Handles one message; false at the end of the program.
   bool PumpOne();
-  // Hands messages out while `open` is true, with all windows disabled but one form's.
-  void RunAlone(const Form* form, const std::function<bool()>& open);
+  void HandOut(MSG& message);
+  // Shows a window above the present owner, which waits, and hands messages out while `open`.
+  void RunAbove(HWND window, const std::function<void()>& show, const std::function<bool()>& open);
 
   Shared shared_;
   PrintMeasure measure_{shared_.fonts};
@@ -65,6 +78,8 @@ class Win32View : public View {
   std::vector<std::unique_ptr<FormWindow>> gone_;  // detached while a message of theirs was handled
   Pointer pointer_ = Pointer::kDefault;
   PreviewWindow* preview_ = nullptr;  // while one is shown
+  std::vector<ModalLevel*> levels_;   // of the loops that run, the outermost first
+  int ignoring_ = 0;
   bool ended_ = false;
   std::exception_ptr failure_;
 };

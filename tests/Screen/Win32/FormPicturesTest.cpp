@@ -11,6 +11,8 @@
 #include "Screen/Lib_AboutDlg.h"
 #include "System/Lib_SystemWinInfo.h"
 #include "WindowTest.h"
+#include "support/Win32/DarkScheme.h"
+#include "support/Win32/Readability.h"
 #include "support/Win32/WindowPicture.h"
 
 namespace trovex::test {
@@ -29,25 +31,79 @@ class FormPicturesTest : public WindowTest {
       MoveToResolution(form, 96 * percent / 100);
       Rest();
       EXPECT_THAT(Clipped(form), IsEmpty()) << "at " << percent << " %";
-      TakePicture(form, percent);
+      TakePicture(form, std::to_string(percent));
     }
     MoveToResolution(form, 96);
+    LookInTheDark(form);
     seen_.insert(form.Name());
   }
 
   static std::set<Text> seen_;
 
  private:
-  void TakePicture(const Form& form, int percent) {
-    const char* directory = std::getenv("TROVEX_PICTURES");
-    if (directory == nullptr) return;
+  // The form on a desktop in light letters on black: first with the program's own colours, then
+  // with high contrast, which makes all of it black.
+  void LookInTheDark(Form& form) {
+    // The program's own green on white is the least.
+    constexpr double kLegible = 1.3, kEasilyRead = 4.5;
+    const DarkScheme scheme;
+    SetHighContrast(form, false);
+    EXPECT_THAT(HardToRead(form, kLegible, 1), IsEmpty()) << "with a dark desktop";
+    TakePicture(form, "sombre");
+    SetHighContrast(form, true);
+    EXPECT_THAT(HardToRead(form, kEasilyRead, 0.1), IsEmpty()) << "with high contrast";
+    TakePicture(form, "contraste");
+    SetHighContrast(form, false);
+  }
+
+  void SetHighContrast(const Form& form, bool on) {
+    view.GetShared().colours.ask = [on] { return on; };
+    SendMessageW(Handle(form), WM_SYSCOLORCHANGE, 0, 0);
+    Rest();
+    Redraw(form);
+  }
+
+  // The visible controls whose text stands out too little, or on too light a background.
+  std::vector<std::string> HardToRead(const Form& form, double least, double lightest) {
+    std::vector<std::string> found;
+    for (const auto& control : form.Controls()) {
+      if (!HasText(*control) || view.Of(form)->Of(*control) == nullptr) continue;
+      const HWND window = Handle(*control);
+      if (!IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+      double background = 0;
+      const double contrast = Contrast(window, &background);
+      if (contrast < least || background > lightest) {
+        found.push_back(NameOf(*control) + ": " + std::to_string(contrast) + " on " +
+                        std::to_string(background));
+      }
+    }
+    return found;
+  }
+
+  static bool HasText(const Control& control) {
+    if (const auto* captioned = dynamic_cast<const Captioned*>(&control)) {
+      return !captioned->Caption().empty();
+    }
+    if (const auto* box = dynamic_cast<const TextBox*>(&control)) return !box->GetText().empty();
+    const ControlKind kind = control.Kind();
+    return kind == ControlKind::kGrid || kind == ControlKind::kDirListBox;
+  }
+
+  void Redraw(const Form& form) {
     const HWND window = Handle(form);
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE);
     RedrawWindow(window, nullptr, nullptr,
                  RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     Rest();
-    WritePicture(window, std::filesystem::path(directory) /
-                             (ToUtf8(form.Name()) + "-" + std::to_string(percent) + ".png"));
+  }
+
+  void TakePicture(const Form& form, const std::string& look) {
+    const char* directory = std::getenv("TROVEX_PICTURES");
+    if (directory == nullptr) return;
+    Redraw(form);
+    const HWND window = Handle(form);
+    WritePicture(window,
+                 std::filesystem::path(directory) / (ToUtf8(form.Name()) + "-" + look + ".png"));
   }
 
   // What of the form's controls cannot be read whole: captions wider or higher than their windows,

@@ -87,6 +87,33 @@ TEST_F(PreviewWindowTest, TheFirstPageHasNoPreviousOne) {
   EXPECT_TRUE(next);
 }
 
+TEST_F(PreviewWindowTest, NoButtonCanBePushedOutOfTheWindow) {
+  RECT client = {}, button = {};
+  Preview({[&] {
+    SetWindowPos(Window(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
+    GetClientRect(Window(), &client);
+    GetWindowRect(Button(L"&Fermer"), &button);
+    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&button), 2);
+  }});
+  EXPECT_LE(button.right, client.right);
+  EXPECT_GT(client.bottom, button.bottom + 100) << "some of the page is to be seen";
+}
+
+TEST_F(PreviewWindowTest, FollowsTheResolutionOfItsMonitor) {
+  constexpr UINT kDpiChanged = 0x02E0;
+  RECT proposed = {20, 30, 1820, 1230}, at = {}, before = {}, button = {};
+  Preview({[&] { GetClientRect(Button(L"&Fermer"), &before); },
+           [&] {
+             SendMessageW(Window(), kDpiChanged, MAKEWPARAM(192, 192),
+                          reinterpret_cast<LPARAM>(&proposed));
+             GetWindowRect(Window(), &at);
+             GetClientRect(Button(L"&Fermer"), &button);
+           },
+           [&] { Picture("Preview-200.png"); }});
+  EXPECT_TRUE(EqualRect(&at, &proposed));
+  EXPECT_EQ(button.bottom, 2 * before.bottom);
+}
+
 TEST_F(PreviewWindowTest, WithoutAPrinterSaysSo) {
   boxes.Press(IDOK);
   Preview({[&] { Press(L"&Imprimer..."); }, [] {}});

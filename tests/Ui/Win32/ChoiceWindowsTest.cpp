@@ -80,6 +80,47 @@ TEST_F(OptionWindowTest, AClickOnTheChosenOneIsAClickAllTheSame) {
   EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(OptionWindowTest, TheFocusAloneChoosesNothing) {
+  Option(1).SetFocus();
+  Rest();
+  EXPECT_EQ(GetFocus(), Handle(Option(1)));
+  EXPECT_FALSE(Option(1).Value());
+  EXPECT_EQ(clicks, 0);
+}
+
+// Before Windows Vista a click is reported when the focus comes, whatever the option was told.
+TEST_F(OptionWindowTest, ANotificationThatComesWithTheFocusIsNoClick) {
+  constexpr UINT kDontClick = 0x00F8;
+  Ask(Option(1), kDontClick, FALSE);
+  Option(1).SetFocus();
+  Rest();
+  EXPECT_FALSE(Option(1).Value());
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(OptionWindowTest, TheArrowKeysChooseAndGoRound) {
+  Option(0).Preset(true);
+  Option(0).SetFocus();
+  Press(Option(0), VK_DOWN);
+  EXPECT_TRUE(Option(1).Value());
+  EXPECT_TRUE(Checked(1));
+  EXPECT_EQ(GetFocus(), Handle(Option(1)));
+  Press(Option(1), VK_RIGHT);
+  EXPECT_TRUE(Option(0).Value());
+  Press(Option(0), VK_UP);
+  EXPECT_TRUE(Option(1).Value());
+  Press(Option(1), VK_LEFT);
+  EXPECT_TRUE(Option(0).Value());
+  EXPECT_EQ(clicks, 4);
+}
+
+TEST_F(OptionWindowTest, TheSpaceBarChooses) {
+  Option(1).SetFocus();
+  Press(Option(1), VK_SPACE);
+  EXPECT_TRUE(Option(1).Value());
+  EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(OptionWindowTest, AValueSetByTheProgramRaisesOneClick) {
   Option(1).SetValue(true);
   Rest();

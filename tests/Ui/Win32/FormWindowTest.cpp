@@ -58,6 +58,50 @@ TEST_F(FormWindowTest, TheTabKeyFollowsTheOrderAndLeavesOutWhatCannotBeReached) 
   EXPECT_TRUE(Focused(B(1)));
 }
 
+// Two options between two buttons.
+class OptionGroupTest : public ViewTest {
+ protected:
+  OptionGroupTest() {
+    Make({{ControlKind::kOptionButton, u"O", 0, {150, 900, 900, 300}, u"a"},
+          {ControlKind::kOptionButton, u"O", 1, {1200, 900, 900, 300}, u"b"},
+          {ControlKind::kButton, u"B", 0, {150, 150, 900, 600}, u"zéro"},
+          {ControlKind::kButton, u"B", 1, {1200, 150, 900, 600}, u"un"}});
+  }
+  HWND O(int index) { return Handle(TheForm().Get<OptionButton>(u"O", index)); }
+  HWND B(int index) { return Handle(TheForm().Get<Button>(u"B", index)); }
+  HWND AfterTab() {
+    PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 1);
+    Rest();
+    return GetFocus();
+  }
+};
+
+TEST_F(OptionGroupTest, IsOneStopOfTheTabKeyAndTheChosenOptionIsIt) {
+  TheForm().Get<OptionButton>(u"O", 1).Preset(true);
+  Show();
+  EXPECT_EQ(GetFocus(), O(1)) << "the first stop";
+  EXPECT_EQ(AfterTab(), B(0));
+  EXPECT_EQ(AfterTab(), B(1));
+  EXPECT_EQ(AfterTab(), O(1));
+}
+
+TEST_F(OptionGroupTest, WithoutAChosenOptionTheFirstIsTheStop) {
+  Show();
+  EXPECT_EQ(GetFocus(), O(0));
+  EXPECT_EQ(AfterTab(), B(0));
+}
+
+TEST_F(FormWindowTest, EnterReachesTheFormWhereTheControlHasNoUseForIt) {
+  Show();
+  std::vector<int> pressed;
+  TheForm().on_key_press = [&](int key) { pressed.push_back(key); };
+  Press(B(0), VK_RETURN);
+  EXPECT_EQ(pressed, std::vector<int>{}) << "it is the button's";
+  PostMessageW(FormHandle(), WM_KEYDOWN, VK_RETURN, 1);
+  Rest();
+  EXPECT_EQ(pressed, std::vector{kKeyEnter});
+}
+
 TEST_F(FormWindowTest, EscapeAndF1ReachTheForm) {
   Show();
   std::vector<int> pressed, down;
@@ -135,11 +179,108 @@ TEST_F(FormWindowTest, AnotherResolutionScalesFormAndControls) {
   EXPECT_DOUBLE_EQ(TheForm().ScaleWidth(), 6000) << "the model knows twips alone";
 }
 
+TEST_F(FormWindowTest, TheProposedRectangleIsTaken) {
+  Show();
+  const RECT proposed = {40, 60, 940, 760};
+  MoveToResolution(TheForm(), 144, proposed);
+  RECT at;
+  GetWindowRect(FormHandle(), &at);
+  EXPECT_TRUE(EqualRect(&at, &proposed));
+  EXPECT_DOUBLE_EQ(TheForm().Left(), 400);
+  EXPECT_DOUBLE_EQ(TheForm().ScaleWidth(), ClientSize(TheForm()).cx * 10);
+}
+
+TEST_F(FormWindowTest, TellsTheSystemItsSizeAtAnotherResolution) {
+  constexpr UINT kGetDpiScaledSize = 0x02E4;
+  Show();
+  SIZE size = {};
+  ASSERT_TRUE(SendMessageW(FormHandle(), kGetDpiScaledSize, 192, reinterpret_cast<LPARAM>(&size)));
+  const auto style = [this](int which) {
+    return static_cast<DWORD>(GetWindowLongPtrW(FormHandle(), which));
+  };
+  const RECT outer = win32::WithFrame({0, 0, 800, 600}, style(GWL_STYLE), style(GWL_EXSTYLE), 192);
+  EXPECT_EQ(size.cx, outer.right - outer.left);
+  EXPECT_EQ(size.cy, outer.bottom - outer.top);
+}
+
+TEST(WithFrameTest, AFrameIsThatOfItsResolution) {
+  constexpr DWORD kStyle = WS_CAPTION | WS_THICKFRAME;
+  const RECT usual = WithFrame({0, 0, 100, 100}, kStyle, 0, SystemDpi());
+  RECT expected = {0, 0, 100, 100};
+  AdjustWindowRectEx(&expected, kStyle, FALSE, 0);
+  EXPECT_TRUE(EqualRect(&usual, &expected));
+  const RECT high = WithFrame({0, 0, 100, 100}, kStyle, 0, 2 * SystemDpi());
+  EXPECT_LT(high.top, usual.top) << "a caption of twice the resolution is higher";
+}
+
+TEST_F(FormWindowTest, AMaximisedWindowStaysMaximisedAtAnotherResolution) {
+  Show();
+  ShowWindow(FormHandle(), SW_MAXIMIZE);
+  Rest();
+  RECT at;
+  GetWindowRect(FormHandle(), &at);
+  MoveToResolution(TheForm(), 144, at);
+  RECT then;
+  GetWindowRect(FormHandle(), &then);
+  EXPECT_TRUE(IsZoomed(FormHandle()));
+  EXPECT_TRUE(EqualRect(&at, &then));
+  TheForm().SetCaption(u"autre");
+  TheForm().Resize(6120, 4920);
+  Rest();
+  GetWindowRect(FormHandle(), &then);
+  EXPECT_TRUE(EqualRect(&at, &then));
+}
+
+TEST_F(FormWindowTest, LinesTenTwipsApartStandOnPixelsOfTheirOwn) {
+  TheForm().on_paint = [this] {
+    view.DrawStroke(TheForm(), {2770, 2000, 2770, 3000, 0x0000FF});
+    view.DrawStroke(TheForm(), {2780, 2000, 2780, 3000, 0x00FF00});
+  };
+  Show();
+  RedrawWindow(FormHandle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+  const HDC dc = GetDC(FormHandle());
+  EXPECT_EQ(GetPixel(dc, 184, 160), COLORREF{0x0000FF});
+  EXPECT_EQ(GetPixel(dc, 185, 160), COLORREF{0x00FF00});
+  ReleaseDC(FormHandle(), dc);
+}
+
 TEST_F(FormWindowTest, ARunTimeErrorThatNobodyCatchesEndsTheLoop) {
   Show();
   B(0).on_click = [] { throw RuntimeError(ErrorNumber::kPathNotFound, u"essai"); };
   PostMessageW(Handle(B(0)), BM_CLICK, 0, 0);
   EXPECT_THROW(view.Run(), RuntimeError);
+}
+
+TEST_F(FormWindowTest, AnUncaughtErrorIsToldWhileTheFormStillStands) {
+  Show();
+  int told = 0, later = 0;
+  bool stood = false;
+  view.on_failure = [&](const RuntimeError& error) {
+    ++told;
+    stood = IsWindowVisible(FormHandle()) && TheForm().Loaded();
+    EXPECT_EQ(error.Number(), static_cast<int>(ErrorNumber::kPathNotFound));
+    SendMessageW(Handle(B(1)), BM_CLICK, 0, 0);
+  };
+  B(0).on_click = [] { throw RuntimeError(ErrorNumber::kPathNotFound, u"essai"); };
+  B(1).on_click = Count(later);
+  PostMessageW(Handle(B(0)), BM_CLICK, 0, 0);
+  EXPECT_THROW(view.Run(), RuntimeError);
+  EXPECT_EQ(told, 1);
+  EXPECT_TRUE(stood);
+  EXPECT_EQ(later, 0) << "the program does nothing more";
+}
+
+// The form goes with a message to its window still in the queue.
+TEST_F(FormWindowTest, NothingOfAFormThatIsGoneIsTouched) {
+  Show();
+  const HWND window = FormHandle();
+  auto box = std::make_unique<Form>(TheSpec());
+  box->Load();
+  box->Show();
+  box->Get<Button>(u"B", 0).SetEnabled(false);
+  box.reset();
+  Rest();
+  EXPECT_TRUE(IsWindowVisible(window));
 }
 
 TEST_F(FormWindowTest, AModalFormEndsWhenItIsHiddenAndTheOthersWaitMeanwhile) {

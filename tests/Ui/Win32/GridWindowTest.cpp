@@ -53,6 +53,28 @@ class GridWindowTest : public ViewTest {
     Click(grid, at.x, at.y);
   }
 
+  void Type(wchar_t letter) {
+    PostMessageW(Handle(grid), WM_CHAR, letter, 1);
+    Rest();
+  }
+  // What the list is told when it looks for a row.
+  LRESULT Find(const wchar_t* beginning, int from) {
+    NMLVFINDITEMW wish = {};
+    wish.hdr = {Handle(grid), 0, static_cast<UINT>(LVN_ODFINDITEMW)};
+    wish.iStart = from;
+    wish.lvfi.flags = LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP;
+    wish.lvfi.psz = beginning;
+    return SendMessageW(FormHandle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&wish));
+  }
+  Text Clipboard() {
+    OpenClipboard(FormHandle());
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    const Text text =
+        memory == nullptr ? Text() : FromWide(static_cast<const wchar_t*>(GlobalLock(memory)));
+    CloseClipboard();
+    return text;
+  }
+
   Grid& grid = ShowOne<Grid>(ControlKind::kGrid, {150, 150, 5500, 3000});
   int clicks = 0, double_clicks = 0;
 };
@@ -142,6 +164,68 @@ TEST_F(GridWindowTest, ArrowKeysMoveAndEnterActsAsTheDoubleClick) {
   Press(grid, VK_RETURN);
   EXPECT_EQ(double_clicks, 1);
   EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(GridWindowTest, EnterCountsThoughTheListNamesNoRow) {
+  Press(grid, VK_DOWN);
+  NMITEMACTIVATE activation = {};
+  activation.hdr = {Handle(grid), 0, static_cast<UINT>(LVN_ITEMACTIVATE)};
+  activation.iItem = -1;
+  SendMessageW(FormHandle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&activation));
+  EXPECT_EQ(double_clicks, 1);
+}
+
+TEST_F(GridWindowTest, AClickOnTheRowThatAnArrowKeyChoseIsAClick) {
+  grid.SetFocus();
+  Press(grid, VK_DOWN);
+  ASSERT_EQ(clicks, 1);
+  ClickItem(1);
+  EXPECT_EQ(grid.Row(), 2);
+  EXPECT_EQ(clicks, 2);
+  ClickItem(3);
+  EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(GridWindowTest, ALetterGoesToTheNextRowThatBeginsWithIt) {
+  for (const auto& [row, name] :
+       {std::pair{1, u"Alpha"}, {2, u"beta"}, {3, u" Bravo"}, {4, u"Écho"}, {5, u"alpin"}}) {
+    Put(row, 0, name);
+  }
+  grid.SetRow(1);
+  Rest();
+  grid.SetFocus();
+  Type('b');
+  EXPECT_EQ(grid.Row(), 2);
+  EXPECT_EQ(Selected(), 1);
+  EXPECT_EQ(clicks, 1);
+  Type('x');
+  EXPECT_EQ(grid.Row(), 2) << "none begins with it";
+}
+
+TEST_F(GridWindowTest, TheListAsksForTheRowByTheColumnThatItIsSearchedBy) {
+  for (const auto& [row, name] : {std::pair{1, u" Zip.zip"}, {2, u" Beta.zip"}, {4, u" béta.zip"}})
+    Put(row, 2, name);
+  grid.SetSearchCol(2);
+  EXPECT_EQ(Find(L"b", 0), 1);
+  EXPECT_EQ(Find(L"B", 2), 3);
+  EXPECT_EQ(Find(L"b", 4), 1) << "round and round";
+  EXPECT_EQ(Find(L"bé", 0), 3);
+  EXPECT_EQ(Find(L"D", 0), -1) << "another column's";
+}
+
+TEST_F(GridWindowTest, CtrlCCopiesTheRowWithTabsBetweenItsCells) {
+  Put(2, 1, u" D:\\Été");
+  grid.SetRow(2);
+  Rest();
+  PressWithControl(grid, 'C');
+  EXPECT_EQ(Clipboard(), u"2\tD:\\Été\tA.EXE\t12");
+}
+
+TEST_F(GridWindowTest, TheTitleRowIsPartOfTheTableToTheMouse) {
+  int moves = 0;
+  grid.on_mouse_move = Count(moves);
+  SendMessageW(Header(), WM_MOUSEMOVE, 0, MAKELPARAM(20, 5));
+  EXPECT_EQ(moves, 1);
 }
 
 TEST_F(GridWindowTest, AClickBelowTheRowsIsNone) {

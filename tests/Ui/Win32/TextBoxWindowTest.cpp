@@ -1,4 +1,5 @@
 #include "ViewTest.h"
+#include "support/Win32/OtherProgram.h"
 
 namespace trovex::win32 {
 namespace {
@@ -49,12 +50,34 @@ TEST_F(TextBoxWindowTest, EnterGoesToWhoListensAndIsUsedUp) {
   EXPECT_EQ(box.GetText(), u"");
 }
 
-TEST_F(TextBoxWindowTest, LosingTheFocusIsReported) {
+class TwoTextBoxesTest : public ViewTest {
+ protected:
+  TwoTextBoxesTest() {
+    Make({{ControlKind::kTextBox, u"T", 0, {150, 150, 3000, 300}},
+          {ControlKind::kTextBox, u"T", 1, {150, 600, 3000, 300}}});
+    Show();
+    T(0).on_lost_focus = Count(losses);
+  }
+  TextBox& T(int index) { return TheForm().Get<TextBox>(u"T", index); }
+
   int losses = 0;
-  box.on_lost_focus = Count(losses);
-  box.SetFocus();
-  ::SetFocus(FormHandle());
+};
+
+TEST_F(TwoTextBoxesTest, LeavingOneForTheOtherIsReported) {
+  T(0).SetFocus();
+  T(1).SetFocus();
   EXPECT_EQ(losses, 1);
+}
+
+TEST_F(TwoTextBoxesTest, AnotherWindowTakesTheFocusForAWhileOnly) {
+  test::OtherProgram other;
+  T(0).SetFocus();
+  SetForegroundWindow(other.Window());
+  Rest();
+  SetForegroundWindow(FormHandle());
+  Rest();
+  EXPECT_EQ(GetFocus(), Handle(T(0)));
+  EXPECT_EQ(losses, 0);
 }
 
 TEST_F(TextBoxWindowTest, ItsColourFillsIt) {
@@ -90,6 +113,13 @@ TEST_F(TextPaneTest, ALockedTextCannotBeTypedInto) {
   Ask(One<TextBox>(), WM_CHAR, 'x', 1);
   EXPECT_EQ(Shown(One<TextBox>()), u"lu");
   EXPECT_EQ(One<TextBox>().GetText(), u"lu");
+}
+
+TEST_F(TextPaneTest, CtrlASelectsAll) {
+  One<TextBox>().SetText(u"un\r\ndeux");
+  Rest();
+  PressWithControl(One<TextBox>(), 'A');
+  EXPECT_EQ(Ask(One<TextBox>(), EM_GETSEL), MAKELONG(0, 8));
 }
 
 TEST_F(TextPaneTest, HoldsALongText) {

@@ -40,6 +40,7 @@ class ViewTest : public ::testing::Test, protected test::WindowUser {
     return form_->Get<T>(u"Lui");
   }
   Form& TheForm() { return *form_; }
+  const FormSpec& TheSpec() const { return spec_; }
   HWND FormHandle() const { return Handle(*form_); }
   // A counter of an event's occurrences.
   Event Count(int& counter) {

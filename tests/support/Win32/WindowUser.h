@@ -50,6 +50,14 @@ class WindowUser {
     PostMessageW(Handle(control), WM_KEYUP, key, 1);
     Rest();
   }
+  void PressWithControl(const Control& control, WPARAM key) {
+    BYTE keys[256] = {};
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    Press(control, key);
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys);
+  }
   void Click(const Control& control, int x, int y) {
     PostMessageW(Handle(control), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
     PostMessageW(Handle(control), WM_LBUTTONUP, 0, MAKELPARAM(x, y));
@@ -67,21 +75,35 @@ class WindowUser {
   }
   // Drags the window's edge until its client area measures so many pixels.
   void ResizeClient(const Form& form, int width, int height) {
-    const HWND window = Handle(form);
-    RECT outer = {0, 0, width, height};
-    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)), FALSE,
-                       static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)));
-    SetWindowPos(window, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
+    const RECT outer = WithFrame(form, {0, 0, width, height});
+    SetWindowPos(Handle(form), nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
                  SWP_NOMOVE | SWP_NOZORDER);
     Rest();
   }
-  // Moves the form to a monitor of another resolution.
+  // Moves the form to a monitor of another resolution, on which frames are as wide as on this one.
   void MoveToResolution(const Form& form, int dpi) {
-    constexpr UINT kDpiChanged = 0x02E0;
+    const win32::Scale there{dpi};
+    const RECT outer =
+        WithFrame(form, {0, 0, there.Pixels(form.ScaleWidth()), there.Pixels(form.ScaleHeight())});
     RECT at;
     GetWindowRect(Handle(form), &at);
-    SendMessageW(Handle(form), kDpiChanged, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&at));
+    MoveToResolution(
+        form, dpi,
+        {at.left, at.top, at.left + outer.right - outer.left, at.top + outer.bottom - outer.top});
+  }
+  // The same, into a rectangle that the system proposes.
+  void MoveToResolution(const Form& form, int dpi, RECT proposed) {
+    constexpr UINT kDpiChanged = 0x02E0;
+    SendMessageW(Handle(form), kDpiChanged, MAKEWPARAM(dpi, dpi),
+                 reinterpret_cast<LPARAM>(&proposed));
     Rest();
+  }
+  // A client area with the form's frame around it.
+  RECT WithFrame(const Form& form, RECT client) const {
+    const HWND window = Handle(form);
+    AdjustWindowRectEx(&client, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)));
+    return client;
   }
 
   win32::Win32View view;
