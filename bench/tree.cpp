@@ -1,7 +1,7 @@
-// trovex-bench-tree DEST [SCALE]: makes the tree that bench/run measures on, in the new directory
-// DEST. At scale 1 (the default) it has 20,000 directories below DEST and 200,000 files: a tenth of
-// them executables, a twentieth archives, the rest small texts and data. The same scale gives the
-// same tree everywhere.
+// trovex-bench-tree DEST [SCALE [EVERY]]: makes the tree that bench/run measures on, in the new
+// directory DEST. At scale 1 (the default) it has 20,000 directories below DEST and 200,000 files:
+// one in EVERY (10) is an executable, one in twice as many an archive, the rest are small texts and
+// data. The same numbers give the same tree everywhere.
 // Exit status: 0; 1 something could not be written; 2 the command line is wrong.
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,9 +52,10 @@ std::string Numbered(std::string_view name, std::size_t number) {
 
 class Tree {
  public:
-  Tree(const std::string& root, double scale)
+  Tree(const std::string& root, double scale, std::size_t every)
       : directories_(static_cast<std::size_t>(kDirectories * scale)),
-        files_(static_cast<std::size_t>(kFiles * scale)) {
+        files_(static_cast<std::size_t>(kFiles * scale)),
+        every_(every) {
     all_.push_back({root});
     open_.push_back(0);
   }
@@ -65,9 +66,9 @@ class Tree {
     // The descriptions count among the files that are neither executable nor archive.
     std::size_t spare = described_;
     for (std::size_t i = 0; i < files_; ++i) {
-      if (i % 10 == 0) {
-        Executable(i / 10);
-      } else if (i % 20 == 5) {
+      if (i % every_ == 0) {
+        Executable(i / every_);
+      } else if (i % (2 * every_) == every_ / 2) {
         Archive(i);
       } else if (spare > 0) {
         --spare;
@@ -147,7 +148,7 @@ class Tree {
     Check(close(file) == 0 && written == static_cast<ssize_t>(bytes.size()), path);
   }
 
-  std::size_t directories_, files_, described_ = 0;
+  std::size_t directories_, files_, every_, described_ = 0;
   Dice dice_;
   std::vector<Directory> all_;
   std::vector<std::size_t> open_;  // indices of those that may have children
@@ -161,12 +162,21 @@ double Scale(const char* text) {
   return sound ? scale : 0;
 }
 
+// One executable in so many files, or 0 where the text is no such number.
+std::size_t Every(const char* text) {
+  char* end = nullptr;
+  const unsigned long every = std::strtoul(text, &end, 10);
+  return end != text && *end == '\0' && every >= 2 && every <= 1000 ? every : 0;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
-  const double scale = count == 3 ? Scale(arguments[2]) : 1;
-  if (count < 2 || count > 3 || scale == 0) {
-    std::cerr << "usage: trovex-bench-tree DEST [SCALE], SCALE from 0.001 to 4\n";
+  const double scale = count >= 3 ? Scale(arguments[2]) : 1;
+  const std::size_t every = count >= 4 ? Every(arguments[3]) : 10;
+  if (count < 2 || count > 4 || scale == 0 || every == 0) {
+    std::cerr << "usage: trovex-bench-tree DEST [SCALE [EVERY]], SCALE from 0.001 to 4, "
+                 "EVERY from 2 to 1000\n";
     return 2;
   }
   try {
@@ -174,7 +184,7 @@ int main(int count, char** arguments) {
       std::cerr << "trovex-bench-tree: " << arguments[1] << " is there already\n";
       return 2;
     }
-    Tree(arguments[1], scale).Write();
+    Tree(arguments[1], scale, every).Write();
   } catch (const std::exception& error) {
     std::cerr << "trovex-bench-tree: " << error.what() << "\n";
     return 1;

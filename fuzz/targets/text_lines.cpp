@@ -37,6 +37,15 @@ Text Joined(const std::vector<std::string_view>& lines, std::size_t most) {
   return text;
 }
 
+// One reader of both lines, asked for more and for less of them in turn.
+void TryOnce(const std::vector<std::string_view>& lines, std::size_t longest) {
+  TextLines once(kFile);
+  for (std::size_t cut : {longest, kLongestLine, longest}) {
+    Promise(once.sPremiereLigne(cut) == Line(lines, 0, cut), "the first line, cut anew");
+    Promise(once.sDeuxiemeLigne(cut) == Line(lines, 1, cut), "the second line, cut anew");
+  }
+}
+
 }  // namespace
 
 void Try(std::string_view input) {
@@ -47,12 +56,15 @@ void Try(std::string_view input) {
   disc.files[ToUpper(kFile)] = input;
   const std::vector<std::string_view> lines = LinesOf(input);
 
-  Promise(sPremiereLigne(kFile) == Line(lines, 0, kLongestLine), "the first line");
-  Promise(sDeuxiemeLigne(kFile) == Line(lines, 1, kLongestLine), "the second line");
+  Promise(TextLines(kFile).sPremiereLigne() == Line(lines, 0, kLongestLine), "the first line");
+  Promise(TextLines(kFile).sDeuxiemeLigne() == Line(lines, 1, kLongestLine), "the second line");
   disc.bytes_read = 0;
-  Promise(sPremiereLigne(kFile, longest) == Line(lines, 0, longest), "a line's beginning");
+  Promise(TextLines(kFile).sPremiereLigne(longest) == Line(lines, 0, longest),
+          "a line's beginning");
   Promise(disc.bytes_read <= longest + kPiece, "nothing is read behind what is wanted");
-  Promise(sDeuxiemeLigne(kFile, longest) == Line(lines, 1, longest), "the second line's beginning");
+  Promise(TextLines(kFile).sDeuxiemeLigne(longest) == Line(lines, 1, longest),
+          "the second line's beginning");
+  TryOnce(lines, longest);
   TextBox box;
   ChargeTexte(kFile, box);
   Promise(box.GetText() == Joined(lines, lines.size()), "a text box holds all lines");

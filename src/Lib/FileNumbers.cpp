@@ -19,11 +19,9 @@ class OpenFile {
  public:
   enum class Mode { kInput, kOutput };
 
-  OpenFile(const Text& name, Mode mode)
-      : name_(name),
-        mode_(mode),
-        handle_(mode == Mode::kInput ? CurrentPlatform().OpenRead(name)
-                                     : CurrentPlatform().OpenWrite(name)) {}
+  // Takes over the open file.
+  OpenFile(Text name, Mode mode, FileHandle handle)
+      : name_(std::move(name)), mode_(mode), handle_(handle) {}
 
   const Text& Name() const { return name_; }
   bool IsOutput() const { return mode_ == Mode::kOutput; }
@@ -131,15 +129,17 @@ bool IsOpen(const Text& name) {
                      [&](const auto& entry) { return EqualsNoCase(entry.second.Name(), name); });
 }
 
-void Open(int number, const Text& name, OpenFile::Mode mode) {
+// Opens by `open`, unless that cannot be.
+template <typename Opening>
+void Open(int number, Text name, OpenFile::Mode mode, Opening open) {
   if (number < 1 || number > kLastNumber) throw RuntimeError(ErrorNumber::kBadFileNumber);
   // What is being read cannot be emptied under the reader; several may read.
   const bool busy = mode == OpenFile::Mode::kOutput ? IsOpen(name) : IsOpenForOutput(name);
   if (Files().contains(number) || busy) {
     throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
   }
-  Files().emplace(std::piecewise_construct, std::forward_as_tuple(number),
-                  std::forward_as_tuple(name, mode));
+  const FileHandle handle = open();
+  Files().try_emplace(number, std::move(name), mode, handle);
 }
 
 }  // namespace
@@ -154,11 +154,11 @@ int FreeFile() {
   return number;
 }
 
-void OpenInput(int number, const Text& name) {
-  Open(number, name, OpenFile::Mode::kInput);
+void OpenInput(int number, const FileInHand& file) {
+  Open(number, file.Name(), OpenFile::Mode::kInput, [&] { return file.OpenRead(); });
 }
 void OpenOutput(int number, const Text& name) {
-  Open(number, name, OpenFile::Mode::kOutput);
+  Open(number, name, OpenFile::Mode::kOutput, [&] { return CurrentPlatform().OpenWrite(name); });
 }
 
 bool AtEnd(int number) {

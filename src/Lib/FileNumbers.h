@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <limits>
 
-#include "Platform/Text.h"
+#include "Lib/Folder.h"
 
 namespace trovex {
 
@@ -14,7 +14,7 @@ int FreeFile();
 // Open a file under a free number for reading, or for writing from empty. Only readers share a
 // file: anything else raises kFileAlreadyOpen, as a number in use does. They raise what the
 // platform raises, and kBadFileNumber for a number that cannot be.
-void OpenInput(int number, const Text& name);
+void OpenInput(int number, const FileInHand& file);
 void OpenOutput(int number, const Text& name);
 
 // True at the end of a file that was opened for reading. Raises kDeviceIo.

@@ -8,7 +8,6 @@
 namespace trovex {
 namespace {
 
-constexpr std::uint32_t kSpecial = kAttributeHidden | kAttributeSystem | kAttributeDirectory;
 constexpr std::uint32_t kDirectoryBuffer = 255;  // characters
 constexpr int kLastLimitedLine = 300;
 constexpr std::size_t kDateAndTime = 19;  // characters
@@ -27,7 +26,7 @@ bool Finds(const Text& pattern, std::uint32_t allowed) {
   if (handle == FindHandle::kInvalid) return false;
   bool found = false;
   do {
-    found = (data.attributes & kSpecial & ~allowed) == 0 && !Trimmed(data.name).empty();
+    found = (data.attributes & kAttributesSpecial & ~allowed) == 0 && !Trimmed(data.name).empty();
   } while (!found && platform.FindNextFile(handle, data));
   platform.FindClose(handle);
   return found;
@@ -122,18 +121,18 @@ Text sFormatDate(const LocalTime& date) {
   return text;
 }
 
-int iOuvreLecture(const Text& sNom, bool bMessage, bool bCreer) {
+int iOuvreLecture(const FileInHand& oFichier, bool bMessage, bool bCreer) {
   try {
-    if (bFichierExiste(sNom)) {
+    if (oFichier.Exists()) {
       const int iFichier = FreeFile();
-      OpenInput(iFichier, sNom);
+      OpenInput(iFichier, oFichier);
       return iFichier;
     }
-    if (bCreer) return iOuvreEcriture(sNom);
+    if (bCreer) return iOuvreEcriture(oFichier.Name());
   } catch (const RuntimeError& error) {
     Err().Set(error);
   }
-  if (bMessage) MessageErreurFichier(sNom, kCodeOuverture);
+  if (bMessage) MessageErreurFichier(oFichier.Name(), kCodeOuverture);
   Err().Clear();
   return -1;
 }
@@ -198,9 +197,9 @@ bool bEffaceFichier(const Text& sNom, bool bConfirme, bool bMessage) {
   return true;
 }
 
-void ChargeTexte(const Text& sFichier, TextBox& oTexte, bool bLimiter) {
-  if (Trimmed(sFichier).empty()) return;
-  const int iFichier = iOuvreLecture(sFichier);
+void ChargeTexte(const FileInHand& oFichier, TextBox& oTexte, bool bLimiter) {
+  if (Trimmed(oFichier.Name()).empty()) return;
+  const int iFichier = iOuvreLecture(oFichier);
   if (iFichier == -1) return;
   try {
     for (int iLigne = 0; !AtEnd(iFichier) && (!bLimiter || iLigne <= kLastLimitedLine); ++iLigne) {
@@ -212,7 +211,7 @@ void ChargeTexte(const Text& sFichier, TextBox& oTexte, bool bLimiter) {
       }
     }
   } catch (const RuntimeError&) {
-    // The lines read so far stay.
+    oFichier.NoteUnread();  // the lines read so far stay
   }
   CloseFile(iFichier);
 }

@@ -3,6 +3,7 @@
 // files. Failures are reported by the error box, or silently where told so.
 #pragma once
 
+#include "Lib/Folder.h"
 #include "Platform/Platform.h"
 #include "Ui/TextBox.h"
 
@@ -25,6 +26,10 @@ Text sRepertoireSeul(TextView sChemin);
 Text sRepertoireWindows();
 Text sRepertoireSysteme();
 
+// What an entry may not be to count as a plain file.
+inline constexpr std::uint32_t kAttributesSpecial =
+    kAttributeHidden | kAttributeSystem | kAttributeDirectory;
+
 // True for a plain file that is neither hidden nor a system file. An empty name gives false.
 bool bFichierExiste(const Text& sNom);
 // True if a directory search for the name finds an entry that has no other special attribute than
@@ -39,7 +44,7 @@ bool bEstExtension(TextView sNom, TextView sExtension);
 Text sFormatDate(const LocalTime& date);
 
 // A number of an open file, or -1; the caller closes it.
-int iOuvreLecture(const Text& sNom, bool bMessage = true, bool bCreer = false);
+int iOuvreLecture(const FileInHand& oFichier, bool bMessage = true, bool bCreer = false);
 int iOuvreEcriture(const Text& sNom);
 
 // True if the file was copied. `bConfirme` asks before it replaces, and reports failures.
@@ -48,7 +53,7 @@ bool bCopieFichier(const Text& sSource, const Text& sDestination, bool bConfirme
 bool bEffaceFichier(const Text& sNom, bool bConfirme, bool bMessage = true);
 
 // Shows a text file in the box, line by line; with `bLimiter` its first 301 lines.
-void ChargeTexte(const Text& sFichier, TextBox& oTexte, bool bLimiter = false);
+void ChargeTexte(const FileInHand& oFichier, TextBox& oTexte, bool bLimiter = false);
 
 // Type of the drive that a letter, "X:" or "X:\" names. Any other text, and the letter P, asks
 // about the current directory's drive.

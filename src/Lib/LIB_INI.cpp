@@ -4,6 +4,7 @@
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/SettingsFile.h"
+#include "Platform/Records/ProfileFile.h"
 #include "Resources/Strings.h"
 
 namespace trovex {
@@ -18,6 +19,37 @@ long long LengthOf(const Text& sFichier) {
     throw RuntimeError(ErrorNumber::kFileNotFound);
   }
   return status.length;
+}
+
+bool IsGros(const std::string& bytes) {
+  return bytes.size() >= static_cast<std::size_t>(kGrosFichier);
+}
+
+// What is left of an open file, or enough of it to be a large one.
+std::string ReadBytes(FileHandle file) {
+  constexpr std::size_t kPiece = 4096;
+  std::string bytes;
+  for (std::size_t read = kPiece; read == kPiece && !IsGros(bytes);) {
+    const std::size_t size = bytes.size();
+    bytes.resize(size + kPiece);
+    read = CurrentPlatform().Read(file, bytes.data() + size, kPiece);
+    bytes.resize(size + read);
+  }
+  return bytes;
+}
+
+// Raises what the platform raises.
+std::string BytesOf(const FileInHand& oFichier) {
+  const FileHandle file = oFichier.OpenRead();
+  try {
+    std::string bytes = ReadBytes(file);
+    CurrentPlatform().Close(file);
+    return bytes;
+  } catch (const RuntimeError&) {
+    oFichier.NoteUnread();
+    CurrentPlatform().Close(file);
+    throw;
+  }
 }
 
 bool OnCdRom(const Text& sFichier) {
@@ -59,6 +91,22 @@ Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const 
     const std::uint32_t n = CurrentPlatform().GetPrivateProfileString(
         sSection, sCle, sDefaut, buffer, kValueBuffer, sFichier);
     return n == 0 ? sDefaut : Trim(TextView(buffer).substr(0, n));
+  } catch (const RuntimeError&) {
+    return sDefaut;
+  }
+}
+
+Text IniEnMain::sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut) {
+  const Text sFichier = file_.Name();
+  try {
+    if (sFichier != sDernierFichierIni && !file_.Exists()) return sDefaut;
+    sDernierFichierIni = sFichier;
+    if (!bytes_) bytes_ = BytesOf(file_);
+    if (IsGros(*bytes_)) return sLitIniGrosFichier(sSection, sCle, sDefaut, sFichier);
+    Text buffer;
+    const std::uint32_t n =
+        records::ProfileAnswer(*bytes_, sSection, sCle, sDefaut, buffer, kValueBuffer);
+    return n == 0 ? sDefaut : Trim(buffer);
   } catch (const RuntimeError&) {
     return sDefaut;
   }

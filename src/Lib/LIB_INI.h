@@ -2,7 +2,10 @@
 // files of 320000 bytes or more, which those are not trusted with.
 #pragma once
 
-#include "Platform/Text.h"
+#include <optional>
+#include <string>
+
+#include "Lib/Folder.h"
 
 namespace trovex {
 
@@ -18,6 +21,17 @@ extern Text sDernierFichierIni;
 // The value, trimmed of blanks on the profile path; the default where file, section, key or value
 // is missing. Every error counts as a missing key.
 Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const Text& sFichier);
+// The same for a foreign file that is asked several things: its bytes are read with the first one.
+class IniEnMain {
+ public:
+  explicit IniEnMain(FileInHand file) : file_(std::move(file)) {}
+  Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut);
+
+ private:
+  FileInHand file_;
+  std::optional<std::string> bytes_;
+};
+
 // The value as a Boolean: any number but 0 is true.
 bool bLitIni(const Text& sSection, const Text& sCle, bool bDefaut, const Text& sFichier);
 

@@ -49,6 +49,10 @@ struct FileStatus {
   LocalTime modified;
 };
 
+// How much of a file could be had: nothing, since there is none or it is out of reach; its status
+// alone, since it cannot be opened or read; all that was asked for.
+enum class Reading { kNothing, kStatus, kAll };
+
 // Handles are plain numbers that only the platform that gave them understands.
 enum class FindHandle : std::int64_t { kInvalid = -1, kNone = 0 };
 enum class FileHandle : std::int64_t { kInvalid = -1 };
@@ -68,7 +72,8 @@ class FilePort {
   // FindClose, but one whose search has reached its end holds nothing any more, closed or not; a
   // second call of FindClose and one on kInvalid do no harm.
   virtual FindHandle FindFirstFile(const Text& pattern, FindData& data) = 0;
-  // The next entry; false, and `data` untouched, at the end or on kInvalid.
+  // The next entry; false, and `data` untouched, at the end or on kInvalid. Raises kDeviceIo where
+  // the search breaks off before its end.
   virtual bool FindNextFile(FindHandle handle, FindData& data) = 0;
   virtual void FindClose(FindHandle handle) = 0;
 
@@ -105,16 +110,18 @@ class FilePort {
   // --- Version records ----------------------------------------------------------------------
 
   // Length in bytes of the version record of an NE or PE file, 0 if it has none or anything in it
-  // is malformed or cut short. Reads only headers, the resource directory and the record.
+  // is malformed or cut short, or where there is no such file. Reads only headers, the resource
+  // directory and the record. Raises kPermissionDenied or kDeviceIo where the file is there but
+  // cannot be opened or read.
   virtual std::uint32_t GetFileVersionInfoSize(const Text& name) = 0;
   // The first `length` bytes of the raw record (fewer bytes never: filled up with NUL). False, and
   // `block` empty, where there is none.
   virtual bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) = 0;
 
-  // Status and whole version record at once, for whoever wants both. False as GetFileStatus;
-  // `record` is empty where there is none or it cannot be read. Without a shorter way it goes
-  // through the operations above.
-  virtual bool GetFileProperties(const Text& name, FileStatus& status, std::string& record);
+  // Status and whole version record at once, for whoever wants both. kNothing where GetFileStatus
+  // is false; `record` is empty then, where the file has none, and where it cannot be read. Without
+  // a shorter way it goes through the operations above.
+  virtual Reading GetFileProperties(const Text& name, FileStatus& status, std::string& record);
 
   // --- Drives and directories ---------------------------------------------------------------
 

@@ -33,8 +33,6 @@ class ForwardingPlatform : public Platform,
         ForwardingMachine(machine),
         target_(target) {}
 
-  void Forget() override { target_.Forget(); }
-
  protected:
   Platform& Target() { return target_; }
 

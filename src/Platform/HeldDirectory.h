@@ -37,19 +37,17 @@ class HeldDirectory {
 
   // May be kept longer than the directory itself.
   virtual const std::shared_ptr<const DirectoryEntries>& Entries() const = 0;
-  // True if a search finds "." and ".." here, as it does below a root.
-  virtual bool HasDots() const = 0;
+  // False where the reading of the directory broke off: more may stand in it than its entries say.
+  virtual bool IsWhole() const = 0;
 
   // A subdirectory; null as Platform::OpenDirectory.
   virtual std::shared_ptr<HeldDirectory> OpenDirectory(const ListedEntry& entry) = 0;
   virtual bool GetFileStatus(const ListedEntry& entry, FileStatus& status) = 0;
   // Closed, like any other, by Platform::Close.
   virtual FileHandle OpenRead(const ListedEntry& entry) = 0;
-  virtual bool GetFileProperties(const ListedEntry& entry, FileStatus& status,
-                                 std::string& record) = 0;
-  virtual std::uint32_t GetPrivateProfileString(const Text& section, const Text& key,
-                                                const Text& fallback, Text& buffer,
-                                                std::uint32_t size, const ListedEntry& entry) = 0;
+  virtual Reading GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                                    std::string& record) = 0;
+  virtual int ExtractIconEx(const ListedEntry& entry, int index) = 0;
 };
 
 }  // namespace trovex

@@ -23,6 +23,9 @@ class Host {
   // The settings file of a program that is installed, as the program writes it; empty where it
   // stands beside the program.
   virtual Text InstalledSettings() { return {}; }
+  // A name of the program as the user knows it (UTF-8): a file of the directory that was opened
+  // stands behind that directory as it was given.
+  virtual std::string UserNameOf(const Text& name) = 0;
 };
 
 // Opens `directory` (UTF-8). On Posix it becomes the root of `drive`, a CD-ROM drive, and the

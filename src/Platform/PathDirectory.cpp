@@ -66,21 +66,18 @@ class FoundEntries : public DirectoryEntries {
 
 class PathDirectory : public HeldDirectory {
  public:
-  // `directory` with its final backslash; the search has found `first`.
+  // `directory` with its final backslash; `search` has found `first`, or is kInvalid where there is
+  // nothing to find.
   PathDirectory(Platform& platform, Text directory, FindHandle search, FindData& first)
       : platform_(platform), directory_(std::move(directory)) {
     auto entries = std::make_shared<FoundEntries>();
-    do {
-      const bool dots = first.name == u"." || first.name == u"..";
-      has_dots_ = has_dots_ || dots;
-      if (!dots) entries->Add(first);
-    } while (platform.FindNextFile(search, first));
+    if (search != FindHandle::kInvalid) TakeAll(search, first, *entries);
     entries->Sort();
     entries_ = std::move(entries);
   }
 
   const std::shared_ptr<const DirectoryEntries>& Entries() const override { return entries_; }
-  bool HasDots() const override { return has_dots_; }
+  bool IsWhole() const override { return whole_; }
 
   std::shared_ptr<HeldDirectory> OpenDirectory(const ListedEntry& entry) override {
     return platform_.OpenDirectory(NameOf(entry));
@@ -91,24 +88,42 @@ class PathDirectory : public HeldDirectory {
   FileHandle OpenRead(const ListedEntry& entry) override {
     return platform_.OpenRead(NameOf(entry));
   }
-  bool GetFileProperties(const ListedEntry& entry, FileStatus& status,
-                         std::string& record) override {
+  Reading GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                            std::string& record) override {
     return platform_.GetFileProperties(NameOf(entry), status, record);
   }
-  std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
-                                        Text& buffer, std::uint32_t size,
-                                        const ListedEntry& entry) override {
-    return platform_.GetPrivateProfileString(section, key, fallback, buffer, size, NameOf(entry));
+  int ExtractIconEx(const ListedEntry& entry, int index) override {
+    return platform_.ExtractIconEx(NameOf(entry), index);
   }
 
  private:
+  // A search that breaks off, as on a scratched disc, gives what was readable.
+  void TakeAll(FindHandle search, FindData& data, FoundEntries& entries) {
+    try {
+      do {
+        if (data.name != u"." && data.name != u"..") entries.Add(data);
+      } while (platform_.FindNextFile(search, data));
+    } catch (const RuntimeError&) {
+      whole_ = false;
+    }
+  }
+
   Text NameOf(const ListedEntry& entry) const { return directory_ + Text(entry.name); }
 
   Platform& platform_;
   Text directory_;
-  bool has_dots_ = false;
+  bool whole_ = true;
   std::shared_ptr<const DirectoryEntries> entries_;
 };
+
+// After a search that found nothing: a root has no entries of its own, so an empty one finds none,
+// and both systems have the same code for that.
+bool IsEmptyRoot(Platform& platform, const Text& path) {
+  constexpr std::uint32_t kNothingFound = 2;
+  const bool nothing = platform.GetLastError() == kNothingFound;
+  FileStatus status;
+  return nothing && path.size() == 3 && path[1] == u':' && platform.GetFileStatus(path, status);
+}
 
 }  // namespace
 
@@ -118,7 +133,7 @@ std::shared_ptr<HeldDirectory> Platform::OpenDirectory(const Text& directory) {
   if (!path.ends_with(u'\\')) path += u'\\';
   FindData data;
   const FindHandle search = FindFirstFile(path + u"*.*", data);
-  if (search == FindHandle::kInvalid) return nullptr;
+  if (search == FindHandle::kInvalid && !IsEmptyRoot(*this, path)) return nullptr;
   auto held = std::make_shared<PathDirectory>(*this, std::move(path), search, data);
   FindClose(search);
   return held;

@@ -9,16 +9,17 @@ Platform* current_platform = nullptr;
 
 }  // namespace
 
-bool FilePort::GetFileProperties(const Text& name, FileStatus& status, std::string& record) {
+Reading FilePort::GetFileProperties(const Text& name, FileStatus& status, std::string& record) {
   record.clear();
-  if (!GetFileStatus(name, status)) return false;
+  if (!GetFileStatus(name, status)) return Reading::kNothing;
   try {
     const std::uint32_t length = GetFileVersionInfoSize(name);
     if (length > 0 && !GetFileVersionInfo(name, length, record)) record.clear();
   } catch (const RuntimeError&) {
     record.clear();
+    return Reading::kStatus;
   }
-  return true;
+  return Reading::kAll;
 }
 
 Platform& CurrentPlatform() {

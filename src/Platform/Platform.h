@@ -23,15 +23,11 @@ class Platform : public virtual FilePort,
                  public virtual RegistryPort,
                  public virtual MachinePort {
  public:
-  // Reads a directory and holds it, see Platform/HeldDirectory.h. Null where a search for "*.*"
-  // finds nothing: a missing or unreadable directory, an empty root. Unless an implementation has a
-  // shorter way, the directory in hand goes through the operations of this class, so that who
-  // overrides one of them need not think of it.
+  // Reads a directory and holds it, see Platform/HeldDirectory.h. Null where it is missing or
+  // cannot be read; an empty root is held like any other. Unless an implementation has a shorter
+  // way, the directory in hand goes through the operations of this class, so that who overrides one
+  // of them need not think of it.
   virtual std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory);
-
-  // Drops what the implementation remembers of the disk: what is asked next is read afresh. What
-  // it remembers between calls is otherwise only a hint that each use verifies.
-  virtual void Forget() = 0;
 };
 
 // The platform of the process. It must have been set.

@@ -256,6 +256,10 @@ const std::unordered_map<StringId, Text>& Table() {
       {StringId::kImprimeInstallation, u"Liste des procédures d'installation."},
       {StringId::kImprimeExecutables, u"Liste des exécutables."},
       {StringId::kImprimeArchives, u"Liste des Archives ZIP."},
+      {StringId::kNonLu, u"Lecture impossible : "},
+      {StringId::kAutres, u" autres"},
+      {StringId::kLigneDeTrop, u" ligne de trop dans le tableau "},
+      {StringId::kLignesDeTrop, u" lignes de trop dans le tableau "},
       {StringId::kNomProgramme, Text(kTitle)},
       {StringId::kRechercheLes,
        u"Recherche les procédures d'installation, les exécutables et les archives Zip à partir "

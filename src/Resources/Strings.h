@@ -226,6 +226,10 @@ enum class StringId : int {
   kImprimeInstallation = 520,
   kImprimeExecutables = 521,
   kImprimeArchives = 522,
+  kNonLu = 530,
+  kAutres = 531,
+  kLigneDeTrop = 532,
+  kLignesDeTrop = 533,
   kNomProgramme = 10000,
   kRechercheLes = 10001,
 };

@@ -1,13 +1,11 @@
 #include <algorithm>
 
 #include "Lib/LIB_FILE.h"
-#include "Lib/LIB_INI.h"
 #include "Lib/LIB_OBJECT_GRID.h"
 #include "Lib/LIB_STRING.h"
-#include "Lib/Lib_Form.h"
+#include "Platform/Unread.h"
 #include "Resources/Strings.h"
 #include "Scanner/TROVEX_MAIN.h"
-#include "Scanner/TextLines.h"
 #include "Scanner/zFileInfo.h"
 
 namespace trovex {
@@ -18,7 +16,6 @@ constexpr int kColEmplacement = 1;
 constexpr int kColFichier = 2;
 constexpr int kColVersion = 3;
 
-constexpr std::size_t kUsualName = 16;  // characters of a file's name; longer ones do no harm
 constexpr std::size_t kLongestDescription = 50;  // that stands without dots
 constexpr std::size_t kCut = 95;                 // characters of a description kept
 constexpr int kDecoration = 10;                  // characters in a row that make a line worthless
@@ -26,11 +23,6 @@ constexpr int kDecoration = 10;                  // characters in a row that mak
 // Tools of installers, which have no row in any table.
 constexpr TextView kTools[] = {u"_ISDEL.EXE", u"_ISETUP.EXE", u"_MSSETUP.EXE", u"_MSTEST.EXE",
                                u"EXPAND.EXE"};
-
-// The files that a description is taken from.
-constexpr TextView kDescriptions[] = {u"SETUP.LST",   u"SETUP.INI",    u"INSTALL.INF",
-                                      u"file_id.diz", u"lisezmoi.txt", u"readme.txt",
-                                      u"INSTALL.TXT"};
 
 bool IsTool(const Text& sFichier) {
   return std::any_of(std::begin(kTools), std::end(kTools),
@@ -47,20 +39,17 @@ Text Shortened(const Text& sDescription) {
 // the next one reads it back.
 class Analysis {
  public:
-  Analysis(Grid& grid, const Text& sPath, const Text& sFichier)
+  Analysis(Grid& grid, Surroundings& beside, const Text& sFichier)
       : grid_(grid),
-        sPath_(sPath),
+        beside_(beside),
         sFichier_(sFichier),
-        sDossier_(sAjouteBackslash(sPath)),
-        iDossier_(sDossier_.size()),
-        bArchive_(bEstExtension(sFichier, u"zip")) {
-    sDossier_.reserve(iDossier_ + kUsualName);
-  }
+        bArchive_(bEstExtension(sFichier, u"zip")) {}
 
   void Run() {
     const bool bDecrire = NeedsDescription();
-    oInfo_.PutFileName(Beside(Trimmed(sFichier_)),
+    oInfo_.PutFileName(FileInHand(beside_.Directory(), Trimmed(sFichier_)),
                        bDecrire ? zFileInfo::Parts::kAll : zFileInfo::Parts::kStatus);
+    if (bDecrire && beside_.IsFirst(sFichier_)) beside_.PutFirstRecord(oInfo_.Record());
     PlaceRow();
     if (bDecrire) Describe();
     PutSizeOrVersion();
@@ -71,20 +60,11 @@ class Analysis {
  private:
   const Text& Current() const { return grid_.GetText(); }
   void Put(TextView sTexte) { grid_.SetText(sTexte); }
-  // The name of a file of this directory; good until the next call.
-  const Text& Beside(TextView sNom) {
-    sDossier_.resize(iDossier_);
-    return sDossier_.append(sNom);
-  }
-  bool Exists(TextView sNom) { return bFichierExiste(Beside(sNom)); }
   bool IsArchive() const { return bArchive_; }
 
   // An archive shows its size, whatever its description: that is looked for only where a file
   // beside it may turn out to be unreadable, which is reported all the same.
-  bool NeedsDescription() {
-    return !IsArchive() || std::any_of(std::begin(kDescriptions), std::end(kDescriptions),
-                                       [this](TextView sNom) { return Exists(sNom); });
-  }
+  bool NeedsDescription() const { return !IsArchive() || beside_.HasDescription(); }
 
   void Describe() {
     Put(Shortened(oInfo_.zDescription()));
@@ -95,9 +75,11 @@ class Analysis {
   }
 
   void PlaceRow() {
-    grid_.SetRow(iGetClearLineGrid(grid_, kColFichier, true, TextView()));
+    const int iLigne = iGetClearLineGrid(grid_, kColFichier, true, TextView());
+    if (iLigne == 0) NoteLeftOut(NumberOf(grid_));  // a full table: the box has come up
+    grid_.SetRow(iLigne);
     grid_.SetCol(kColEmplacement);
-    Put(u" " + sPath_);
+    Put(u" " + beside_.Directory().Name());
     grid_.SetCol(kColFichier);
     Put(ProperCase(u" " + sFichier_));
     grid_.SetCol(kColDescription);
@@ -106,16 +88,16 @@ class Analysis {
   // --- Description files of installers: one branch, by which file exists ---
 
   void ReadInstallerFiles() {
-    if (Exists(u"SETUP.LST")) {
+    if (beside_.Has(Source::kSetupLst)) {
       RejectBootstrapper();
-      PutIniIfEmpty(u"Setup", u"Title", u"SETUP.LST");
-      PutIniIfEmpty(u"Params", u"WndTitle", u"SETUP.LST");
-      PutIniIfEmpty(u"Windows 95 Params", u"WndTitle", u"SETUP.LST");
-    } else if (Exists(u"SETUP.INI")) {
+      PutIniIfEmpty(u"Setup", u"Title", Source::kSetupLst);
+      PutIniIfEmpty(u"Params", u"WndTitle", Source::kSetupLst);
+      PutIniIfEmpty(u"Windows 95 Params", u"WndTitle", Source::kSetupLst);
+    } else if (beside_.Has(Source::kSetupIni)) {
       // SETUP.LST is absent here, so this never fills the text; SETUP.INI has its turn later.
-      PutIniIfEmpty(u"Startup", u"AppName", u"SETUP.LST");
-    } else if (Exists(u"INSTALL.INF")) {
-      if (Current().empty()) Put(sLitIni(u"INSTALL", u"APPNAME", {}, Beside(u"INSTALL.INF")));
+      PutIniIfEmpty(u"Startup", u"AppName", Source::kSetupLst);
+    } else if (beside_.Has(Source::kInstallInf)) {
+      if (Current().empty()) Put(Ini(u"INSTALL", u"APPNAME", Source::kInstallInf));
     }
   }
 
@@ -126,44 +108,46 @@ class Analysis {
     }
   }
 
-  void PutIniIfEmpty(const Text& sSection, const Text& sCle, TextView sNom) {
-    if (Current().empty()) Put(Trimmed(sLitIni(sSection, sCle, {}, Beside(sNom))));
+  Text Ini(const Text& sSection, const Text& sCle, Source source) {
+    return beside_.Ini(source).sLitIni(sSection, sCle, {});
+  }
+  void PutIniIfEmpty(const Text& sSection, const Text& sCle, Source source) {
+    if (Current().empty()) Put(Trimmed(Ini(sSection, sCle, source)));
   }
 
   // --- Text files: one branch in each pass, by which file exists ---
 
   void ReadTextFiles() {
-    if (Exists(u"file_id.diz")) {
-      PutLines(u"file_id.diz", kCut, kCut);
-    } else if (Exists(u"lisezmoi.txt")) {
-      PutLines(u"lisezmoi.txt", kLongestLine, kCut);
-    } else if (Exists(u"readme.txt")) {
-      PutLines(u"readme.txt", kCut, kCut);
+    if (beside_.Has(Source::kFileIdDiz)) {
+      PutLines(Source::kFileIdDiz, kCut, kCut);
+    } else if (beside_.Has(Source::kLisezMoi)) {
+      PutLines(Source::kLisezMoi, kLongestLine, kCut);
+    } else if (beside_.Has(Source::kReadme)) {
+      PutLines(Source::kReadme, kCut, kCut);
     } else if (!IsArchive()) {
-      // Always the first file of the directory, whichever is being analysed.
-      Put(vNomProduit(Beside(Lib_Form().ListeFichier().List(0))));
+      Put(beside_.FirstProduct());
     }
   }
 
   void ReadTextFilesAgain() {
-    if (Exists(u"file_id.diz")) {
-      PutLines(u"file_id.diz", kCut, kLongestLine);
-    } else if (Exists(u"SETUP.INI")) {
-      Put(Trimmed(sLitIni(u"Startup", u"AppName", {}, Beside(u"SETUP.INI"))));
+    if (beside_.Has(Source::kFileIdDiz)) {
+      PutLines(Source::kFileIdDiz, kCut, kLongestLine);
+    } else if (beside_.Has(Source::kSetupIni)) {
+      Put(Trimmed(Ini(u"Startup", u"AppName", Source::kSetupIni)));
     } else {
-      for (const TextView sNom : {u"lisezmoi.txt", u"readme.txt", u"INSTALL.TXT"}) {
-        if (Exists(sNom)) return PutLines(sNom, kCut, kCut);
+      for (const Source source : {Source::kLisezMoi, Source::kReadme, Source::kInstallTxt}) {
+        if (beside_.Has(source)) return PutLines(source, kCut, kCut);
       }
     }
   }
 
   // The first line, or where the line check leaves nothing of it the second, each cut to so many
   // characters.
-  void PutLines(TextView sNom, std::size_t iPremiere, std::size_t iDeuxieme) {
-    const Text& sFile = Beside(sNom);
-    PutLine(sPremiereLigne(sFile, iPremiere));
+  void PutLines(Source source, std::size_t iPremiere, std::size_t iDeuxieme) {
+    TextLines& lines = beside_.Lines(source);
+    PutLine(lines.sPremiereLigne(iPremiere));
     CheckLine();
-    if (Current().empty()) PutLine(sDeuxiemeLigne(sFile, iDeuxieme));
+    if (Current().empty()) PutLine(lines.sDeuxiemeLigne(iDeuxieme));
   }
 
   void PutLine(const Text& sLigne) { Put(Trimmed(sChangeCaractere(sLigne, u"\t", u" "))); }
@@ -206,25 +190,23 @@ class Analysis {
   // The second line of logiciel.txt, such as "Version : 1.2", stands in for a missing version.
   void FillVersion() {
     grid_.SetCol(kColVersion);
-    if (!IsBlankOrZero() || !Exists(u"logiciel.txt")) return;
-    const Text sLigne = sDeuxiemeLigne(Beside(u"logiciel.txt"));
+    if (!IsBlankOrZero() || !beside_.Has(Source::kLogiciel)) return;
+    const Text sLigne = beside_.Lines(Source::kLogiciel).sDeuxiemeLigne();
     Put(sDroiteDe(sDroiteDe(sLigne, u":"), u" "));
   }
 
   Grid& grid_;
-  const Text& sPath_;
+  Surroundings& beside_;
   const Text& sFichier_;
-  Text sDossier_;  // with its final backslash, and behind that the name asked for last
-  const std::size_t iDossier_;
   const bool bArchive_;
   zFileInfo oInfo_;
 };
 
 }  // namespace
 
-void AnalyserFichier(Grid& grid, const Text& sPath, const Text& sFichier) {
+void AnalyserFichier(Grid& grid, Surroundings& beside, const Text& sFichier) {
   if (IsTool(sFichier)) return;
-  Analysis(grid, sPath, sFichier).Run();
+  Analysis(grid, beside, sFichier).Run();
 }
 
 }  // namespace trovex

@@ -7,47 +7,55 @@
 #include "Scanner/VersionRecord.h"
 
 namespace trovex {
-namespace {
 
-// Line `wanted` (1 or 2). The lines before it are passed over, not kept, and nothing is read behind
-// what is wanted: a large file without line ends costs no more than a small one.
-Text ReadLine(const Text& sFile, int wanted, std::size_t longest) {
-  if (Trimmed(sFile).empty()) return {};
-  const int iFichier = iOuvreLecture(sFile);
-  if (iFichier == -1) return {};
-  Text sLigne;
+TextLines::~TextLines() {
+  Rewind();
+}
+
+Text TextLines::Line(std::size_t number, std::size_t longest) {
+  if (file_.IsBlank()) return {};
+  Known& line = lines_[number];
   try {
-    for (int line = 1; line < wanted && !AtEnd(iFichier); ++line) LineInput(iFichier, 0);
-    if (!AtEnd(iFichier)) sLigne = LineStart(iFichier, longest);
-    CloseFile(iFichier);
+    if (!line.whole && line.text.size() < longest) Read(number, longest);
+    return line.text.substr(0, longest);
   } catch (const RuntimeError& error) {
     Err().Set(error);
-    CloseFile(iFichier);
-    MessageErreurFichier(sFile, kCodeOuverture);
+    file_.NoteUnread();
+    Rewind();
+    MessageErreurFichier(file_.Name(), kCodeOuverture);
   }
-  return sLigne;
+  return {};
 }
 
-}  // namespace
-
-Text sPremiereLigne(const Text& sFile, std::size_t longest) {
-  return ReadLine(sFile, 1, longest);
+void TextLines::Read(std::size_t number, std::size_t longest) {
+  if (place_ > number) Rewind();
+  if (open_ == -1) open_ = iOuvreLecture(file_);
+  if (open_ == -1) return;
+  while (place_ < number) PassLine();
+  Known& line = lines_[number];
+  const std::size_t wanted = longest - line.text.size();
+  const Text more = AtEnd(open_) ? Text() : LineStart(open_, wanted);
+  line.text += more;
+  line.whole = more.size() < wanted;
 }
-Text sDeuxiemeLigne(const Text& sFile, std::size_t longest) {
-  return ReadLine(sFile, 2, longest);
+
+// What is left of a line that is not wanted is not kept.
+void TextLines::PassLine() {
+  if (!AtEnd(open_)) LineInput(open_, 0);
+  ++place_;
 }
 
-Text vNomProduit(const Text& sFile) {
+void TextLines::Rewind() {
+  IgnoringErrors([&] { CloseFile(open_); });
+  open_ = -1;
+  lines_ = {};
+  place_ = 0;
+}
+
+Text vNomProduit(std::string_view record) {
   constexpr std::size_t kOffset = 12;  // the key, its NUL and no padding
-  if (sFile.empty()) return {};
-  try {
-    const std::string record = ReadVersionRecord(sFile);
-    const auto value = BehindKey(record, "ProductName", kOffset);
-    if (value) return FromCp1252(*value);
-  } catch (const RuntimeError&) {
-    // The text held so far.
-  }
-  return ResString(StringId::kPasDeNomProduit);
+  const auto value = BehindKey(record, "ProductName", kOffset);
+  return value ? FromCp1252(*value) : ResString(StringId::kPasDeNomProduit);
 }
 
 }  // namespace trovex

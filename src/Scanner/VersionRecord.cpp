@@ -1,14 +1,15 @@
 #include "Scanner/VersionRecord.h"
 
-#include "Platform/Platform.h"
-
 namespace trovex {
 
-std::string ReadVersionRecord(const Text& sFichier) {
-  Platform& platform = CurrentPlatform();
-  const std::uint32_t length = platform.GetFileVersionInfoSize(sFichier);
+std::string ReadVersionRecord(const FileInHand& oFichier) {
+  FileStatus status;
   std::string record;
-  if (length < 1 || !platform.GetFileVersionInfo(sFichier, length, record)) return {};
+  try {
+    oFichier.GetFileProperties(status, record);
+  } catch (const RuntimeError&) {
+    record.clear();
+  }
   return record;
 }
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "Platform/Text.h"
+#include "Lib/Folder.h"
 
 namespace trovex {
 
 // The raw record; empty where the file has none or it cannot be read.
-std::string ReadVersionRecord(const Text& sFichier);
+std::string ReadVersionRecord(const FileInHand& oFichier);
 
 // All that stands in the record from `offset` characters behind the start of the first occurrence
 // of `key` (exact in case); nothing where the key does not occur. A part of `record`.

@@ -13,14 +13,14 @@ constexpr std::size_t kKoCut = 4;  // the last group and its blank
 
 }  // namespace
 
-void zFileInfo::PutFileName(const Text& sFileName, Parts parts) {
+void zFileInfo::PutFileName(const FileInHand& oFichier, Parts parts) {
   ViderChamps();
-  if (Trimmed(sFileName).empty()) return;
+  if (oFichier.IsBlank()) return;
   try {
     FileStatus status;
     const bool found = parts == Parts::kAll
-                           ? CurrentPlatform().GetFileProperties(sFileName, status, record_)
-                           : CurrentPlatform().GetFileStatus(sFileName, status);
+                           ? oFichier.GetFileProperties(status, record_) != Reading::kNothing
+                           : oFichier.GetFileStatus(status);
     if (found) status_ = status;
   } catch (const RuntimeError&) {
     // What was filled so far stays.
@@ -30,23 +30,11 @@ void zFileInfo::PutFileName(const Text& sFileName, Parts parts) {
 void zFileInfo::ViderChamps() {
   status_.reset();
   record_.clear();
-  made_.reset();
+  put_ = {};
 }
 
-void zFileInfo::Put(Field field, Text value) {
-  texts_[field] = std::move(value);
-  made_.set(field);
-}
-
-const Text& zFileInfo::Get(Field field) const {
-  if (!made_[field]) {
-    texts_[field] = Made(field);
-    made_.set(field);
-  }
-  return texts_[field];
-}
-
-Text zFileInfo::Made(Field field) const {
+Text zFileInfo::Get(Field field) const {
+  if (put_[field]) return *put_[field];
   if (field >= kVersion) return FromRecord(field);
   return status_ ? FromStatus(field) : Text();
 }

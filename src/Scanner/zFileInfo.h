@@ -2,11 +2,10 @@
 #pragma once
 
 #include <array>
-#include <bitset>
 #include <optional>
 #include <string>
 
-#include "Platform/Platform.h"
+#include "Lib/Folder.h"
 
 namespace trovex {
 
@@ -16,32 +15,34 @@ class zFileInfo {
   enum class Parts { kAll, kStatus };  // kStatus: size, date and time, without opening the file
 
   // Fills the object from the file. Every failure is silent: what could not be read stays empty.
-  void PutFileName(const Text& sFileName, Parts parts = Parts::kAll);
+  void PutFileName(const FileInHand& oFichier, Parts parts = Parts::kAll);
+  // The version record that was read, empty if none was.
+  const std::string& Record() const { return record_; }
 
   // Each field has a getter and a setter of its own name; all are empty texts at first.
-  const Text& zSize() const { return Get(kSize); }  // bytes in the picture "### ### ###"
+  Text zSize() const { return Get(kSize); }  // bytes in the picture "### ### ###"
   void zSize(Text value) { Put(kSize, std::move(value)); }
-  const Text& zSizeKo() const { return Get(kSizeKo); }  // the same without its last four characters
+  Text zSizeKo() const { return Get(kSizeKo); }  // the same without its last four characters
   void zSizeKo(Text value) { Put(kSizeKo, std::move(value)); }
-  const Text& zDate() const { return Get(kDate); }  // dd/mm/yyyy
+  Text zDate() const { return Get(kDate); }  // dd/mm/yyyy
   void zDate(Text value) { Put(kDate, std::move(value)); }
-  const Text& zTime() const { return Get(kTime); }  // hh:mm:ss
+  Text zTime() const { return Get(kTime); }  // hh:mm:ss
   void zTime(Text value) { Put(kTime, std::move(value)); }
-  const Text& zVersion() const { return Get(kVersion); }
+  Text zVersion() const { return Get(kVersion); }
   void zVersion(Text value) { Put(kVersion, std::move(value)); }
-  const Text& zCopyright() const { return Get(kCopyright); }
+  Text zCopyright() const { return Get(kCopyright); }
   void zCopyright(Text value) { Put(kCopyright, std::move(value)); }
-  const Text& zDescription() const { return Get(kDescription); }
+  Text zDescription() const { return Get(kDescription); }
   void zDescription(Text value) { Put(kDescription, std::move(value)); }
-  const Text& zInternalName() const { return Get(kInternalName); }
+  Text zInternalName() const { return Get(kInternalName); }
   void zInternalName(Text value) { Put(kInternalName, std::move(value)); }
-  const Text& zOriginalName() const { return Get(kOriginalName); }
+  Text zOriginalName() const { return Get(kOriginalName); }
   void zOriginalName(Text value) { Put(kOriginalName, std::move(value)); }
-  const Text& zProductName() const { return Get(kProductName); }
+  Text zProductName() const { return Get(kProductName); }
   void zProductName(Text value) { Put(kProductName, std::move(value)); }
-  const Text& zProductVersion() const { return Get(kProductVersion); }
+  Text zProductVersion() const { return Get(kProductVersion); }
   void zProductVersion(Text value) { Put(kProductVersion, std::move(value)); }
-  const Text& zCompanyName() const { return Get(kCompanyName); }
+  Text zCompanyName() const { return Get(kCompanyName); }
   void zCompanyName(Text value) { Put(kCompanyName, std::move(value)); }
 
  private:
@@ -63,16 +64,14 @@ class zFileInfo {
 
   void ViderChamps();
   // A field's text is made when it is asked for: of most files that are read, two of them are.
-  const Text& Get(Field field) const;
-  void Put(Field field, Text value);
-  Text Made(Field field) const;
+  Text Get(Field field) const;
+  void Put(Field field, Text value) { put_[field] = std::move(value); }
   Text FromStatus(Field field) const;
   Text FromRecord(Field field) const;
 
   std::optional<FileStatus> status_;
   std::string record_;
-  mutable std::array<Text, kFieldCount> texts_;  // each only if it is made
-  mutable std::bitset<kFieldCount> made_;
+  std::array<std::optional<Text>, kFieldCount> put_;  // by the setters
 };
 
 // A number of bytes in the picture "### ### ###": digits from the right, the two blanks always

@@ -1,5 +1,7 @@
 #include "Screen/CompanionFiles.h"
 
+#include <optional>
+
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
@@ -51,19 +53,24 @@ Text ShownName(const Text& sNom) {
 
 class Companions {
  public:
-  Companions(MainForm& form, Grid& grid, const Text& sFichier)
+  Companions(MainForm& form, Grid& grid, const Text& sFichier, const Folder& folder)
       : form_(form),
         grid_(grid),
         sFichier_(sFichier),
         bZip_(bEstExtension(sFichier, u"zip")),
+        row_folder_(folder),
+        folder_(&folder),
         source_(Lib_Form().ListeFichier()),
         list_(form.ListFichier) {}
+  ~Companions() { form_.TientDossier(&row_folder_); }
+  Companions(const Companions&) = delete;
+  Companions& operator=(const Companions&) = delete;
 
   void Run() {
     if (IsIn(LIB_SYSTEME::sRepertoireWindows()) || IsIn(LIB_SYSTEME::sRepertoireSysteme())) {
       // Too much there has nothing to do with the program.
       grid_.SetCol(2);
-      source_.SetPattern(StemOf(Trim(grid_.GetText())) + u".*");
+      ShowPattern(StemOf(Trim(grid_.GetText())) + u".*");
       return;
     }
     FindDirectory();
@@ -82,23 +89,27 @@ class Companions {
     return EqualsNoCase(sAjouteBackslash(source_.Path()), sRepertoire);
   }
 
+  void ShowPattern(TextView sMotif) { source_.Show(source_.Path(), folder_->Entries(), sMotif); }
+
   // Leaves the source on the first directory of the set that offers something.
   void FindDirectory() {
     for (;;) {
       if (!bZip_ || ArchiveStandsAlone()) {
         list_.SetTag(source_.Path());
-        source_.SetPattern(bZip_ ? kGeneralPattern : Text(kGeneralPattern) + u";*.zip");
+        ShowPattern(bZip_ ? kGeneralPattern : Text(kGeneralPattern) + u";*.zip");
       }
       if (source_.ListCount() != 0) return;
       const Text sSuivant = NextDirectory(source_.Path());
       if (sSuivant.empty()) return;
-      source_.SetPath(sSuivant);
+      folder_ = &next_.emplace(sSuivant);
+      form_.TientDossier(folder_);
+      source_.Show(sSuivant, folder_->Entries(), source_.Pattern());
     }
   }
 
   bool ArchiveStandsAlone() {
     list_.SetTag(source_.Path());
-    source_.SetPattern(StemOf(sFichier_) + u"*.*");
+    ShowPattern(StemOf(sFichier_) + u"*.*");
     return source_.ListCount() == 1;
   }
 
@@ -156,14 +167,17 @@ class Companions {
   Grid& grid_;
   const Text& sFichier_;
   const bool bZip_;
+  const Folder& row_folder_;
+  const Folder* folder_;  // the one that the source shows
+  std::optional<Folder> next_;
   FileListBox& source_;
   ListBox& list_;
 };
 
 }  // namespace
 
-void ListCompanions(MainForm& form, Grid& grid, const Text& sFichier) {
-  Companions(form, grid, sFichier).Run();
+void ListCompanions(MainForm& form, Grid& grid, const Text& sFichier, const Folder& folder) {
+  Companions(form, grid, sFichier, folder).Run();
 }
 
 }  // namespace trovex

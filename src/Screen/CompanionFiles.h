@@ -6,6 +6,6 @@
 
 namespace trovex {
 
-void ListCompanions(MainForm& form, Grid& grid, const Text& sFichier);
+void ListCompanions(MainForm& form, Grid& grid, const Text& sFichier, const Folder& folder);
 
 }  // namespace trovex

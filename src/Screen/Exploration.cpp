@@ -2,7 +2,6 @@
 
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_OBJECT_GRID.h"
-#include "Platform/ScanCache.h"
 #include "Resources/Strings.h"
 #include "Screen/RowInspector.h"
 #include "Screen/WindowCommands.h"
@@ -27,12 +26,6 @@ void ClearWindow(MainForm& form) {
   form.IconeFichier.SetPicture({});
   for (int i = 0; i < kTableCount; ++i) ClearGrid(form.GridLogiciel(i), {});
   form.Refresh();
-}
-
-void Walk(MainForm& form) {
-  ScanCache cache(CurrentPlatform());
-  PlatformScope scope(cache);
-  ExplorerRepertoire(StartingDirectory(form), true, &form);
 }
 
 // The table with the most rows; of equal ones that of the higher index.
@@ -67,7 +60,7 @@ void Explorer_Click(MainForm& form) {
   const InputBreak input_break;
   BusyOn(ResString(StringId::kExplorationRepertoire) + StartingDirectory(form) + u"...");
   ClearWindow(form);
-  Walk(form);
+  ExplorerRepertoire(StartingDirectory(form), true, &form);
   form.InitTitresTableaux();
   for (int i = 0; i < kTableCount; ++i) form.GridLogiciel(i).SetRow(1);
   ShowTable(form, LargestTable(form));

@@ -16,16 +16,15 @@ Text ChosenFile(MainForm& form) {
 }
 
 // Length in bytes, 0 where the file cannot be found.
-std::int64_t LengthOf(const Text& sFichier) {
+std::int64_t LengthOf(const FileInHand& oFichier) {
   FileStatus status;
-  const bool found = bFichierExiste(sFichier) && CurrentPlatform().GetFileStatus(sFichier, status);
-  return found ? status.length : 0;
+  return oFichier.Exists() && oFichier.GetFileStatus(status) ? status.length : 0;
 }
 
 void ShowIcon(MainForm& form, const Text& sFichier) {
   form.ImageSelect.SetPicture({});
   IgnoringErrors([&] {
-    if (CurrentPlatform().ExtractIconEx(sFichier, 0) > 0) {
+    if (FileInHand(form.DossierEnMain(), sFichier).ExtractIconEx(0) > 0) {
       form.ImageSelect.SetPicture({Picture::Source::kFile, sFichier});
     }
   });
@@ -46,20 +45,22 @@ void RefuseText(MainForm& form, const Text& sFichier, std::int64_t lTaille) {
 void ShowText(MainForm& form, Text sFichier) {
   form.PrintTexte.SetVisible(false);
   form.TextInfo(0).SetText({});
-  std::int64_t lTaille = LengthOf(sFichier);
-  if (!bFichierExiste(sFichier)) {
+  FileInHand oFichier(form.DossierEnMain(), sFichier);
+  std::int64_t lTaille = LengthOf(oFichier);
+  if (!oFichier.Exists()) {
     // The list may have been read from another disk directory than the row's own.
     const Text sAutre =
         sAjouteBackslash(sRepertoireSeul(form.TextInfo(5).GetText())) + form.ListFichier.GetText();
     if (bFichierExiste(sAutre)) {
       sFichier = sAutre;
-      lTaille = LengthOf(sFichier);
+      oFichier = FileInHand(sAutre);
+      lTaille = LengthOf(oFichier);
     }
   }
   if (lTaille <= 0) return RefuseText(form, sFichier, lTaille);
   BusyOn(ResString(StringId::kPatientezChargement) + sFichier + u" - " + Decimal(lTaille) +
          ResString(StringId::kMajOctets));
-  IgnoringErrors([&] { ChargeTexte(sFichier, form.TextInfo(0), true); });
+  IgnoringErrors([&] { ChargeTexte(oFichier, form.TextInfo(0), true); });
   form.ImageSelect.SetVisible(false);
   form.LabelInfo(2).SetVisible(true);
   form.TextInfo(0).SetVisible(true);

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "Lib/Folder.h"
 #include "Scanner/TROVEX_MAIN.h"
 #include "Ui/Button.h"
 #include "Ui/DirListBox.h"
@@ -33,6 +34,10 @@ class MainForm : public Form {
   Label& LabelInfo(int index) { return Get<Label>(u"LabelInfo", index); }
   Shape& ShapeOmbre(int index) { return Get<Shape>(u"ShapeOmbre", index); }
 
+  // What a click on a row has in hand, null between clicks: no disc is kept busy.
+  const Folder* DossierEnMain() const { return dossier_; }
+  void TientDossier(const Folder* dossier) { dossier_ = dossier; }
+
   DriveListBox& ListeDrive;
   DirListBox& ListeRepertoire;
   Button& Explorer;
@@ -55,6 +60,7 @@ class MainForm : public Form {
 
   std::array<Grid*, kTableCount> grids_;
   std::array<TextBox*, 7> text_info_;
+  const Folder* dossier_ = nullptr;
 };
 
 }  // namespace trovex

@@ -33,14 +33,32 @@ void CompleteDescription(Grid& grid, int Index, const zFileInfo& oInfo) {
   grid.SetText(Index == kArchives ? oInfo.zSizeKo() : oInfo.zDescription());
 }
 
-void ShowDetails(MainForm& form, Grid& grid, int Index, const Text& sFichier) {
+// The directory of a row, in the window's hand for as long as the object lives.
+class RowFolder {
+ public:
+  RowFolder(MainForm& form, TextView sRepertoire) : form_(form), folder_(Text(sRepertoire)) {
+    form_.TientDossier(&folder_);
+  }
+  ~RowFolder() { form_.TientDossier(nullptr); }
+  RowFolder(const RowFolder&) = delete;
+  RowFolder& operator=(const RowFolder&) = delete;
+
+  const Folder& Get() const { return folder_; }
+
+ private:
+  MainForm& form_;
+  const Folder folder_;
+};
+
+void ShowDetails(MainForm& form, Grid& grid, int Index, const Text& sFichier,
+                 const Folder& folder) {
   form.TextInfo(5).SetText(Trimmed(sAjouteBackslash(grid.GetText()) + sFichier));
   FileListBox& liste = Lib_Form().ListeFichier();
-  liste.SetPath(Trimmed(grid.GetText()));
+  liste.Show(folder.Name(), folder.Entries(), liste.Pattern());
   form.ListFichier.SetTag(liste.Path());
   grid.SetCol(2);
   zFileInfo oInfo;
-  oInfo.PutFileName(form.TextInfo(5).GetText());
+  oInfo.PutFileName(FileInHand(&folder, form.TextInfo(5).GetText()));
   form.TextInfo(1).SetText(oInfo.zCopyright());
   form.TextInfo(2).SetText(oInfo.zInternalName());
   form.TextInfo(3).SetText(oInfo.zCompanyName());
@@ -58,8 +76,9 @@ void Inspect(MainForm& form, int Index, Text& sFichier) {
   if (sFichier.empty()) return;
   BusyOn();
   if (HasDirectory(grid)) {
-    ShowDetails(form, grid, Index, sFichier);
-    ListCompanions(form, grid, sFichier);
+    const RowFolder folder(form, Trimmed(grid.GetText()));
+    ShowDetails(form, grid, Index, sFichier, folder.Get());
+    ListCompanions(form, grid, sFichier, folder.Get());
     if (!Trimmed(form.TextInfo(5).GetText()).empty()) ShowRowIcon(form, grid);
     ShowExecutableType(form);
   }

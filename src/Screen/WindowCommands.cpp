@@ -87,7 +87,6 @@ void ListeDrive_Change(MainForm& form) {
 }
 
 void UpdateDrives(MainForm& form) {
-  CurrentPlatform().Forget();
   form.ListeDrive.Update();
   form.ListeRepertoire.Update();
 }

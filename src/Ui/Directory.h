@@ -15,8 +15,7 @@ Text WithoutBackslash(TextView directory);
 // True if there is a directory of that name, readable or not.
 bool DirectoryExists(const Text& directory);
 
-// What a directory holds; null where a search finds nothing: a missing or unreadable directory, an
-// empty root.
+// What a directory holds; null where it is missing or cannot be read.
 std::shared_ptr<const DirectoryEntries> EntriesOf(const Text& directory);
 
 }  // namespace trovex

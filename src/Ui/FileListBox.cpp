@@ -18,33 +18,26 @@ std::vector<NamePattern> Split(TextView patterns) {
   return result;
 }
 
-// Null for an empty or unreadable directory; raises where there is none.
-std::shared_ptr<const DirectoryEntries> Entries(const Text& directory) {
-  auto entries = EntriesOf(directory);
-  if (!entries && !DirectoryExists(directory)) {
-    throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
-  }
-  return entries;
-}
-
 }  // namespace
 
 void FileListBox::SetPath(TextView path) {
-  Show(path, pattern_);
+  Show(path, EntriesOf(WithoutBackslash(path)).get(), pattern_);
 }
 
 void FileListBox::SetPattern(TextView pattern) {
   TakePattern(pattern);
-  if (!path_.empty()) Fill(Entries(path_).get());
-  Notify(Property::kList);
+  if (path_.empty()) return Notify(Property::kList);
+  SetPath(path_);
 }
 
-void FileListBox::Show(TextView path, TextView pattern) {
+void FileListBox::Show(TextView path, const DirectoryEntries* entries, TextView pattern) {
   Text directory = WithoutBackslash(path);
-  const auto entries = Entries(directory);
+  if (entries == nullptr && !DirectoryExists(directory)) {
+    throw RuntimeError(ErrorNumber::kPathNotFound, u"FileListBox");
+  }
   path_ = std::move(directory);
   TakePattern(pattern);
-  Fill(entries.get());
+  Fill(entries);
   Notify(Property::kList);
 }
 

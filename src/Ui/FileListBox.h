@@ -23,8 +23,9 @@ class FileListBox : public Control {
   // Setting it reads the directory again, if a path was set.
   const Text& Pattern() const { return pattern_; }
   void SetPattern(TextView pattern);
-  // Sets both with one reading; raises as SetPath, and keeps both former ones then.
-  void Show(TextView path, TextView pattern);
+  // Sets both from what has been read of the directory, null where that was not possible; raises as
+  // SetPath, and keeps both former ones then.
+  void Show(TextView path, const DirectoryEntries* entries, TextView pattern);
 
   void SetHidden(bool hidden) { hidden_ = hidden; }
   void SetSystem(bool system) { system_ = system; }

@@ -142,7 +142,7 @@ TEST_F(FileInfoTest, TheValueStandsAtAFixedDistanceFromEachKey) {
   const struct {
     std::string key;
     std::size_t distance;
-    const Text& (zFileInfo::*get)() const;
+    Text (zFileInfo::*get)() const;
   } keys[] = {{"CompanyName", 12, &zFileInfo::zCompanyName},
               {"FileDescription", 16, &zFileInfo::zDescription},
               {"FileVersion", 12, &zFileInfo::zVersion},

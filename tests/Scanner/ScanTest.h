@@ -10,25 +10,29 @@
 #include "Lib/LIB_OBJECT_GRID.h"
 #include "Platform/Encoding.h"
 #include "Platform/ForwardingPlatform.h"
-#include "Platform/ScanCache.h"
 #include "Scanner/TROVEX_MAIN.h"
 #include "support/ExecutableBuilder.h"
 #include "support/LogicTest.h"
+#include "support/WatchedDirectory.h"
 
 namespace trovex::test {
 
 // Counts what reaches the disk, by name in upper case, and fails where a test says so.
-class CountingPlatform : public ForwardingPlatform {
+class CountingPlatform : public ForwardingPlatform, private DirectoryWatch {
  public:
   using ForwardingPlatform::ForwardingPlatform;
 
+  std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override {
+    if (!UsesOwnDirectories()) return ForwardingPlatform::OpenDirectory(directory);
+    OnAsked(Asked::kDirectory, directory);
+    return WatchedDirectory::Watch(*this, directory, Target().OpenDirectory(directory));
+  }
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override {
-    ++listings[ToUpper(pattern)];
-    if (before_listing) before_listing(pattern);
+    OnListing(pattern);
     return ForwardingPlatform::FindFirstFile(pattern, data);
   }
   FileHandle OpenRead(const Text& name) override {
-    ++opened[ToUpper(name)];
+    OnAsked(Asked::kFile, name);
     return ForwardingPlatform::OpenRead(name);
   }
   std::size_t Read(FileHandle file, void* buffer, std::size_t size) override {
@@ -37,24 +41,31 @@ class CountingPlatform : public ForwardingPlatform {
     return read;
   }
   bool GetFileStatus(const Text& name, FileStatus& status) override {
-    if (before_status) before_status(name);
+    OnAsked(Asked::kStatus, name);
     return ForwardingPlatform::GetFileStatus(name, status);
   }
   std::uint32_t GetFileVersionInfoSize(const Text& name) override {
-    ++records[ToUpper(name)];
+    OnAsked(Asked::kRecord, name);
     return ForwardingPlatform::GetFileVersionInfoSize(name);
-  }
-  std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
-                                        Text& buffer, std::uint32_t size,
-                                        const Text& file) override {
-    ++profiles[ToUpper(file) + u"|" + section + u"|" + key];
-    return ForwardingPlatform::GetPrivateProfileString(section, key, fallback, buffer, size, file);
   }
 
   using Counts = std::map<Text, int>;
-  Counts listings, opened, records, profiles;
+  Counts listings, opened, records;
   std::size_t bytes = 0;
   std::function<void(const Text&)> before_listing, before_status;
+
+ private:
+  void OnListing(const Text& pattern) {
+    ++listings[ToUpper(pattern)];
+    if (before_listing) before_listing(pattern);
+  }
+  bool OnAsked(Asked what, const Text& name) override {
+    if (what == Asked::kDirectory) OnListing(name + (name.ends_with(u'\\') ? u"*.*" : u"\\*.*"));
+    if (what == Asked::kFile) ++opened[ToUpper(name)];
+    if (what == Asked::kRecord) ++records[ToUpper(name)];
+    if (what == Asked::kStatus && before_status) before_status(name);
+    return true;
+  }
 };
 
 // The most often that anything was asked for; 0 if nothing was.
@@ -74,8 +85,6 @@ class ScanTest : public LogicTest {
   // The tables after a scan of `start`.
   void Scan(const Text& start = u"D:\\") {
     for (Grid& grid : tables_) ClearGrid(grid, u"");
-    ScanCache cache(platform_);
-    PlatformScope scope(cache);
     ExplorerRepertoire(start, true);
   }
 

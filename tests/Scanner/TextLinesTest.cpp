@@ -2,6 +2,7 @@
 
 #include "Platform/Encoding.h"
 #include "Platform/ForwardingPlatform.h"
+#include "Scanner/VersionRecord.h"
 #include "support/ExecutableBuilder.h"
 #include "support/LogicTest.h"
 
@@ -22,6 +23,7 @@ class ReadPlatform : public ForwardingPlatform {
   FileHandle OpenRead(const Text& name) override {
     if (open_fails) throw RuntimeError(ErrorNumber::kPermissionDenied);
     ++open;
+    ++opened;
     return ForwardingPlatform::OpenRead(name);
   }
   void Close(FileHandle file) override {
@@ -32,7 +34,7 @@ class ReadPlatform : public ForwardingPlatform {
   std::size_t bytes = 0;
   std::size_t fails_from = static_cast<std::size_t>(-1);
   bool open_fails = false;
-  int open = 0;
+  int open = 0, opened = 0;  // now, and altogether
 };
 
 class TextLinesTest : public LogicTest {
@@ -43,11 +45,11 @@ class TextLinesTest : public LogicTest {
   }
   Text First(std::string_view contents) {
     disc.File("LISEZMOI.TXT", contents);
-    return sPremiereLigne(u"D:\\LISEZMOI.TXT");
+    return TextLines(u"D:\\LISEZMOI.TXT").sPremiereLigne();
   }
   Text Second(std::string_view contents) {
     disc.File("LISEZMOI.TXT", contents);
-    return sDeuxiemeLigne(u"D:\\LISEZMOI.TXT");
+    return TextLines(u"D:\\LISEZMOI.TXT").sDeuxiemeLigne();
   }
 
   ReadPlatform platform_{disc.GetPlatform()};
@@ -84,36 +86,70 @@ TEST_F(TextLinesTest, NothingIsTrimmed) {
 }
 
 TEST_F(TextLinesTest, ABlankNameGivesAnEmptyLineWithoutABox) {
-  EXPECT_EQ(sPremiereLigne(u""), u"");
-  EXPECT_EQ(sDeuxiemeLigne(u"  "), u"");
+  EXPECT_EQ(TextLines(u"").sPremiereLigne(), u"");
+  EXPECT_EQ(TextLines(u"  ").sDeuxiemeLigne(), u"");
 }
 
 TEST_F(TextLinesTest, ALineIsCutWhereItsCallerWants) {
   disc.File("A.TXT", std::string(200, 'a') + "\r\n" + std::string(200, 'b'));
-  EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT", 95), Text(95, u'a'));
-  EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT", 95), Text(95, u'b'));
-  EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT"), Text(200, u'a'));
-  EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT"), Text(200, u'b'));
-  EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT", 200), Text(200, u'a'));
+  EXPECT_EQ(TextLines(u"D:\\A.TXT").sPremiereLigne(95), Text(95, u'a'));
+  EXPECT_EQ(TextLines(u"D:\\A.TXT").sDeuxiemeLigne(95), Text(95, u'b'));
+  EXPECT_EQ(TextLines(u"D:\\A.TXT").sPremiereLigne(), Text(200, u'a'));
+  EXPECT_EQ(TextLines(u"D:\\A.TXT").sDeuxiemeLigne(), Text(200, u'b'));
+  EXPECT_EQ(TextLines(u"D:\\A.TXT").sPremiereLigne(200), Text(200, u'a'));
+}
+
+TEST_F(TextLinesTest, AFileIsOpenedOnceForBothLinesHoweverTheyAreCut) {
+  disc.File("A.TXT", std::string(200, 'a') + "\r\n" + std::string(200, 'b') + "\r\ntrois");
+  TextLines lines(u"D:\\A.TXT");
+  EXPECT_EQ(lines.sPremiereLigne(95), Text(95, u'a'));
+  EXPECT_EQ(lines.sDeuxiemeLigne(95), Text(95, u'b'));
+  EXPECT_EQ(lines.sPremiereLigne(95), Text(95, u'a'));
+  EXPECT_EQ(lines.sDeuxiemeLigne(), Text(200, u'b'));
+  EXPECT_EQ(lines.sPremiereLigne(10), Text(10, u'a'));
+  EXPECT_EQ(platform_.opened, 1);
+  EXPECT_EQ(platform_.open, 1);
+}
+
+TEST_F(TextLinesTest, MoreOfALineThatWasPassedIsReadFromTheStart) {
+  disc.File("A.TXT", std::string(200, 'a') + "\r\ndeux");
+  TextLines lines(u"D:\\A.TXT");
+  EXPECT_EQ(lines.sPremiereLigne(95), Text(95, u'a'));
+  EXPECT_EQ(lines.sDeuxiemeLigne(), u"deux");
+  EXPECT_EQ(lines.sPremiereLigne(), Text(200, u'a'));
+  EXPECT_EQ(lines.sDeuxiemeLigne(), u"deux");
+}
+
+TEST_F(TextLinesTest, AFailureIsReportedEachTimeAndTheFileTriedAgain) {
+  disc.File("A.TXT", "un\r\ndeux");
+  TextLines lines(u"D:\\A.TXT");
+  platform_.open_fails = true;
+  for (int i = 0; i < 2; ++i) view.Answer(BoxAnswer::kOk);
+  EXPECT_EQ(lines.sPremiereLigne(), u"");
+  EXPECT_EQ(lines.sPremiereLigne(), u"");
+  EXPECT_EQ(BoxCount(), 2u);
+  platform_.open_fails = false;
+  EXPECT_EQ(lines.sPremiereLigne(), u"un");
+  EXPECT_EQ(lines.sDeuxiemeLigne(), u"deux");
 }
 
 TEST_F(TextLinesTest, LineEndsAreSeenWhereverThePiecesOfAFileEnd) {
   for (std::size_t length : {4094u, 4095u, 4096u, 4097u, 8191u, 8192u}) {
     disc.File("A.TXT", std::string(length, 'a') + "\r\ndeux\r\n");
-    EXPECT_EQ(sPremiereLigne(u"D:\\A.TXT").size(), length);
-    EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT"), u"deux") << length;
+    EXPECT_EQ(TextLines(u"D:\\A.TXT").sPremiereLigne().size(), length);
+    EXPECT_EQ(TextLines(u"D:\\A.TXT").sDeuxiemeLigne(), u"deux") << length;
   }
 }
 
 TEST_F(TextLinesTest, AFileThatCannotBeOpenedIsReportedAndGivesAnEmptyLine) {
   view.Answer(BoxAnswer::kOk);
-  EXPECT_EQ(sPremiereLigne(u"D:\\RIEN.TXT"), u"");
+  EXPECT_EQ(TextLines(u"D:\\RIEN.TXT").sPremiereLigne(), u"");
   EXPECT_EQ(LastBox(), u"Ouverture impossibleD:\\RIEN.TXT");
   EXPECT_EQ(view.Boxes()[0].style, BoxStyle::kErreur);
   disc.File("A.TXT", "un");
   platform_.open_fails = true;
   view.Answer(BoxAnswer::kOk);
-  EXPECT_EQ(sDeuxiemeLigne(u"D:\\A.TXT"), u"");
+  EXPECT_EQ(TextLines(u"D:\\A.TXT").sDeuxiemeLigne(), u"");
   EXPECT_TRUE(LastBox().starts_with(u"Ouverture impossibleD:\\A.TXT"));
 }
 
@@ -132,16 +168,16 @@ TEST_F(TextLinesTest, AnErrorWhileReadingClosesTheFileAndGivesTheSameBox) {
 TEST_F(TextLinesTest, ALargeFileWithoutLineEndIsNotReadThrough) {
   disc.File("README.TXT", "Un jeu");
   std::filesystem::resize_file(disc.HostPath("README.TXT"), 100'000'000);
-  EXPECT_TRUE(sPremiereLigne(u"D:\\README.TXT", 95).starts_with(u"Un jeu"));
+  EXPECT_TRUE(TextLines(u"D:\\README.TXT").sPremiereLigne(95).starts_with(u"Un jeu"));
   EXPECT_LE(platform_.bytes, 65536u);
-  EXPECT_EQ(sPremiereLigne(u"D:\\README.TXT").size(), kLongestLine);
+  EXPECT_EQ(TextLines(u"D:\\README.TXT").sPremiereLigne().size(), kLongestLine);
   EXPECT_LE(platform_.bytes, 2 * 65536u);
 }
 
 TEST_F(TextLinesTest, OnlyTheFirstTwoLinesOfALargeFileAreRead) {
   disc.File("README.TXT", "un\r\ndeux\r\n");
   std::filesystem::resize_file(disc.HostPath("README.TXT"), 100'000'000);
-  EXPECT_EQ(sDeuxiemeLigne(u"D:\\README.TXT"), u"deux");
+  EXPECT_EQ(TextLines(u"D:\\README.TXT").sDeuxiemeLigne(), u"deux");
   EXPECT_LE(platform_.bytes, 65536u);
 }
 
@@ -163,9 +199,10 @@ class RecordPlatform : public ForwardingPlatform {
 
 class ProductNameTest : public LogicTest {
  protected:
+  ProductNameTest() { disc.File("A.EXE"); }
   Text NameIn(std::string record) {
     platform_.record = std::move(record);
-    return vNomProduit(u"D:\\A.EXE");
+    return vNomProduit(ReadVersionRecord(u"D:\\A.EXE"));
   }
   RecordPlatform platform_{disc.GetPlatform()};
   PlatformScope scope_{platform_};
@@ -191,10 +228,6 @@ TEST_F(ProductNameTest, AFileWithoutOneSaysSo) {
   EXPECT_EQ(NameIn(std::string("ProductName\0Jeu\0", 16)), none_);
   platform_.fails = true;
   EXPECT_EQ(NameIn(std::string("ProductName\0Jeu\0", 16)), none_);
-}
-
-TEST_F(ProductNameTest, AnEmptyNameGivesAnEmptyText) {
-  EXPECT_EQ(vNomProduit(u""), u"");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "Lib/Lib_Form.h"
+#include "Platform/Unread.h"
 #include "Scanner/ScanTest.h"
 
 namespace trovex::test {
@@ -147,10 +148,10 @@ TEST_F(WalkerTest, EmptyAndBlankPathsAreNotWalked) {
   disc.File("A.EXE");
   ExplorerRepertoire(u"", true);
   ExplorerRepertoire(u"  ", true);
-  ClasserFichiers(u"");
-  ClasserFichiers(u"  ");
-  EXPECT_EQ(PremierSousRepertoire(u""), u"");
-  EXPECT_EQ(PremierSousRepertoire(u"  "), u"");
+  ClasserFichiers(Folder(u""));
+  ClasserFichiers(Folder(u"  "));
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"")), u"");
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"  ")), u"");
   EXPECT_THAT(Places(1), IsEmpty());
 }
 
@@ -164,7 +165,7 @@ TEST_F(WalkerTest, TheFilesOfTheStartAreClassifiedOnlyIfAskedFor) {
 TEST_F(WalkerTest, ClassifyingADirectoryLooksAtItsFilesAlone) {
   disc.File("JEUX/A.EXE");
   disc.File("JEUX/SOUS/B.EXE");
-  ClasserFichiers(u"D:\\JEUX");
+  ClasserFichiers(Folder(u"D:\\JEUX"));
   EXPECT_THAT(Places(1), ElementsAre(u" D:\\JEUX| A.exe"));
   EXPECT_EQ(Lib_Form().ListeFichier().Path(), u"D:\\JEUX");
   EXPECT_EQ(Lib_Form().ListeFichier().Pattern(), u"*.exe;*.zip");
@@ -174,17 +175,11 @@ TEST_F(WalkerTest, TheFirstSubdirectoryInProperCase) {
   disc.File("A.EXE");
   disc.Directory("mes JEUX");
   disc.Directory("mes JEUX/VIDE");
-  EXPECT_EQ(PremierSousRepertoire(u"D:\\"), u"Mes Jeux");
-  EXPECT_EQ(PremierSousRepertoire(u"D:\\mes JEUX"), u"Vide");
-  EXPECT_EQ(PremierSousRepertoire(u"D:\\mes JEUX\\"), u"Vide");
-  EXPECT_EQ(PremierSousRepertoire(u"D:\\mes JEUX\\VIDE"), u"");
-  EXPECT_EQ(PremierSousRepertoire(u"D:\\RIEN"), u"");
-}
-
-TEST_F(WalkerTest, ErrorsOfTheLookForASubdirectoryAreIgnored) {
-  disc.Directory("JEUX");
-  platform_.before_listing = [](const Text&) { throw RuntimeError(ErrorNumber::kDeviceIo); };
-  EXPECT_EQ(PremierSousRepertoire(u"D:\\"), u"");
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"D:\\")), u"Mes Jeux");
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"D:\\mes JEUX")), u"Vide");
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"D:\\mes JEUX\\")), u"Vide");
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"D:\\mes JEUX\\VIDE")), u"");
+  EXPECT_EQ(PremierSousRepertoire(Folder(u"D:\\RIEN")), u"");
 }
 
 // A status bar on a form, to see what the walker writes and what it repaints.
@@ -301,6 +296,24 @@ TEST_F(WalkerTest, AnUnreadableDirectoryGivesNoRowsAndNoMessage) {
   EXPECT_EQ(Rows(1).size(), 2u);
 }
 
+TEST_F(WalkerTest, WhatCouldNotBeReadIsNoted) {
+  disc.File("A/A.EXE");
+  disc.File("SECRET/B.EXE");
+  UnreadablePlatform unreadable(platform_);
+  PlatformScope scope(unreadable);
+  Unread unread;
+  UnreadScope unread_scope(unread);
+  ExplorerRepertoire(u"D:\\", true);
+  EXPECT_THAT(unread.Names(), ElementsAre(u"D:\\Secret"));
+}
+
+TEST_F(WalkerTest, AnEmptyRootIsReadLikeAnyOther) {
+  Unread unread;
+  UnreadScope unread_scope(unread);
+  Scan();
+  EXPECT_TRUE(unread.IsEmpty());
+}
+
 TEST_F(WalkerTest, AStartThatIsMissingRaisesPathNotFound) {
   EXPECT_THROW(Scan(u"D:\\RIEN"), RuntimeError);
 }
@@ -324,8 +337,12 @@ TEST_F(WalkerTest, RowsBeyondTheLimitAreReportedAndNothingElseIsLost) {
   Lines("README.TXT", {u"texte"});
   view.Answer(BoxAnswer::kOk);
   view.Answer(BoxAnswer::kOk);
+  Unread unread;
+  UnreadScope unread_scope(unread);
   ExplorerRepertoire(u"D:\\", true);
   EXPECT_EQ(BoxCount(), 2u);
+  EXPECT_THAT(unread.Rows(), ElementsAre(testing::Pair(1, 2)));
+  EXPECT_THAT(unread.Names(), IsEmpty());
   EXPECT_TRUE(LastBox().starts_with(
       u"Allocation nouvelle ligne d'un tableau impossible : iGetClearLineGrid()"));
   EXPECT_EQ(Table(1).Rows(), Grid::kMaxRows);

@@ -3,6 +3,7 @@
 
 #include "Platform/PartScope.h"
 #include "Ui/DirListBox.h"
+#include "Ui/Directory.h"
 #include "Ui/DriveListBox.h"
 #include "Ui/FileListBox.h"
 #include "support/TestDisc.h"
@@ -149,22 +150,23 @@ TEST_F(FileListBoxTest, ThePatternReadsTheDirectoryAgain) {
   EXPECT_THAT(Entries(list_), ElementsAre(u"A.EXE", u"B.EXE"));
 }
 
-TEST_F(FileListBoxTest, ShowSetsPathAndPatternWithOneReading) {
+TEST_F(FileListBoxTest, ShowReadsNothingThatHasBeenRead) {
   disc_.File("JEUX/A.EXE");
   disc_.File("JEUX/B.TXT");
+  const auto entries = EntriesOf(u"D:\\JEUX");
   CountingPlatform counting(CurrentPlatform());
   PartScope scope(counting);
-  list_.Show(u"D:\\JEUX\\", u"*.txt");
+  list_.Show(u"D:\\JEUX\\", entries.get(), u"*.txt");
   EXPECT_THAT(Entries(list_), ElementsAre(u"B.TXT"));
   EXPECT_EQ(list_.Path(), u"D:\\JEUX");
   EXPECT_EQ(list_.Pattern(), u"*.txt");
-  EXPECT_EQ(counting.searches, 1);
+  EXPECT_EQ(counting.searches, 0);
 }
 
 TEST_F(FileListBoxTest, ShowOfAMissingDirectoryKeepsPathAndPattern) {
   disc_.File("JEUX/A.EXE");
-  list_.Show(u"D:\\JEUX", u"*.exe");
-  EXPECT_THROW(list_.Show(u"D:\\RIEN", u"*.txt"), RuntimeError);
+  list_.Show(u"D:\\JEUX", EntriesOf(u"D:\\JEUX").get(), u"*.exe");
+  EXPECT_THROW(list_.Show(u"D:\\RIEN", nullptr, u"*.txt"), RuntimeError);
   EXPECT_EQ(list_.Path(), u"D:\\JEUX");
   EXPECT_EQ(list_.Pattern(), u"*.exe");
   EXPECT_THAT(Entries(list_), ElementsAre(u"A.EXE"));

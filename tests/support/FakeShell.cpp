@@ -67,6 +67,18 @@ bool FakeShell::WritePrivateProfileString(const Text& section, const Text& key, 
          ForwardingPlatform::WritePrivateProfileString(section, key, value, file);
 }
 
+bool FakeShell::OnAsked(Asked what, const Text& name) {
+  const bool refused = what == Asked::kFile && unreadable.contains(ToUpper(name));
+  if (refused) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  return IsThere(name);
+}
+
+std::shared_ptr<HeldDirectory> FakeShell::OpenDirectory(const Text& directory) {
+  const bool own = UsesOwnDirectories() && IsThere(directory);
+  return own ? WatchedDirectory::Watch(*this, directory, Target().OpenDirectory(directory))
+             : ForwardingPlatform::OpenDirectory(directory);
+}
+
 FindHandle FakeShell::FindFirstFile(const Text& pattern, FindData& data) {
   data = {};
   return IsThere(pattern) ? ForwardingPlatform::FindFirstFile(pattern, data) : FindHandle::kInvalid;
@@ -81,8 +93,7 @@ bool FakeShell::GetFileStatus(const Text& name, FileStatus& status) {
 }
 
 FileHandle FakeShell::OpenRead(const Text& name) {
-  if (!IsThere(name)) throw RuntimeError(ErrorNumber::kPathNotFound);
-  if (unreadable.contains(ToUpper(name))) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  if (!OnAsked(Asked::kFile, name)) throw RuntimeError(ErrorNumber::kPathNotFound);
   return ForwardingPlatform::OpenRead(name);
 }
 

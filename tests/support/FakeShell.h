@@ -12,13 +12,14 @@
 #include <vector>
 
 #include "Platform/ForwardingPlatform.h"
+#include "support/WatchedDirectory.h"
 
 namespace trovex::test {
 
 // Only drive D: has contents, those of the platform below; the others are named by `drives`, and of
 // them only those in `ready` answer, with an empty root directory; a name without a drive is
 // nowhere. What is set is given in upper case.
-class FakeShell : public ForwardingPlatform {
+class FakeShell : public ForwardingPlatform, private DirectoryWatch {
  public:
   explicit FakeShell(Platform& disc) : ForwardingPlatform(disc) {}
 
@@ -68,6 +69,7 @@ class FakeShell : public ForwardingPlatform {
   int keys_open = 0;
   std::size_t bytes_read = 0, largest_read = 0;  // the sum, and the most asked for at once
 
+  std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override;
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool GetFileStatus(const Text& name, FileStatus& status) override;
   FileHandle OpenRead(const Text& name) override;
@@ -107,6 +109,8 @@ class FakeShell : public ForwardingPlatform {
  private:
   using KeyName = std::pair<RegistryRoot, Text>;
 
+  bool OnAsked(Asked what, const Text& name) override;
+  int IconsOf(const Text& name, int index) override { return ExtractIconEx(name, index); }
   bool IsThere(const Text& name) const;
   bool IsProtected(const Text& name) const;
   RegistryKey Open(const KeyName& name);

@@ -20,9 +20,9 @@ using Inspection = std::array<std::vector<std::string>, kTableCount>;
 Inspection InspectRows(MainForm& form);
 
 // The whole catalogue as one JSON text with a line end; cells stand as in the grids. `inspection`
-// may be null.
+// may be null; `unread` is left out where it is empty.
 std::string ToJson(MainForm& form, const Text& start, const Inspection* inspection,
-                   const std::vector<Box>& boxes);
+                   const std::vector<Box>& boxes, const std::vector<Text>& unread);
 
 // The three tables with their names and counts.
 void PrintTables(MainForm& form, std::ostream& out);

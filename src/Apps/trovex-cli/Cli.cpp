@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "Apps/trovex-cli/Catalogue.h"
+#include "Apps/trovex-cli/Incomplete.h"
 #include "Apps/trovex-cli/Options.h"
 #include "Lib/LIB_INI.h"
 #include "Lib/Lib_SelectDlg.h"
@@ -74,9 +75,10 @@ int Complain(std::ostream& err, const std::string& complaint) {
 class Session {
  public:
   // Relative names are taken from where the user stands: the program will go elsewhere.
-  Session(const Options& options, Host& host, HeadlessView& view)
+  Session(const Options& options, Host& host, HeadlessView& view, const Unread& unread)
       : options_(options),
         view_(view),
+        unread_(unread),
         ini_(options.ini ? host.NameOf(*options.ini) : host.InstalledSettings()),
         html_(TargetOf(host, options.html, ".htm")),
         pdf_(TargetOf(host, options.pdf, ".pdf")),
@@ -97,7 +99,8 @@ class Session {
     if (options_.pdf) exported = PrintPdf(form, pdf_) && exported;
     form.Quitter.Press();
     if (unprinted) throw *unprinted;
-    return exported ? kDone : kExportFailed;
+    if (!exported) return kExportFailed;
+    return unread_.IsEmpty() ? kDone : kIncomplete;
   }
 
  private:
@@ -115,7 +118,7 @@ class Session {
                                     std::ostream& out) {
     errno = 0;
     if (options_.json) {
-      out << ToJson(form, start, inspection, view_.Boxes());
+      out << ToJson(form, start, inspection, view_.Boxes(), TextsOf(unread_));
     } else if (!options_.quiet) {
       PrintTables(form, out);
     }
@@ -199,6 +202,7 @@ class Session {
 
   const Options& options_;
   HeadlessView& view_;
+  const Unread& unread_;
   const Text ini_, html_, pdf_;
   const Text ascii_[3];  // in the order of the choices; empty where there is no export
 };
@@ -230,13 +234,17 @@ int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
   if (!DirectoryExists(start)) {
     return Complain(err, "trovex-cli: --start " + Printable(start) + ": no such directory");
   }
+  Unread unread;
+  UnreadScope unread_scope(unread);
+  int status = kRuntimeError;
   try {
     Progress progress(view, err, err_is_terminal && !options.quiet);
-    return Session(options, *host, view).Work(start, out);
+    status = Session(options, *host, view, unread).Work(start, out);
   } catch (const RuntimeError& error) {
     err << MessageOf(error) << '\n';
-    return kRuntimeError;
   }
+  TellUnread(unread, *host, err);
+  return status;
 }
 
 }  // namespace trovex::cli

@@ -12,6 +12,7 @@ inline constexpr int kDone = 0;
 inline constexpr int kExportFailed = 1;
 inline constexpr int kWrongCommandLine = 2;
 inline constexpr int kRuntimeError = 3;
+inline constexpr int kIncomplete = 4;  // something could not be read; 3 and 1 go before
 
 // Does what the arguments (UTF-8, without the program's name) say and gives the exit status.
 // Progress goes to `err` only where `err_is_terminal`.

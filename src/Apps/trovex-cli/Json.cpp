@@ -98,7 +98,7 @@ Inspection InspectRows(MainForm& form) {
 }
 
 std::string ToJson(MainForm& form, const Text& start, const Inspection* inspection,
-                   const std::vector<Box>& boxes) {
+                   const std::vector<Box>& boxes, const std::vector<Text>& unread) {
   std::string json = R"({"start":)" + Dump(start);
   json += R"(,"tab":)" + std::to_string(form.ZoneDesTableaux.Tab());
   json += R"(,"count":)" + Dump(form.TextInfo(6).GetText()) + R"(,"tables":)";
@@ -109,6 +109,11 @@ std::string ToJson(MainForm& form, const Text& start, const Inspection* inspecti
   json += R"(,"messages":)";
   json += ArrayOf(static_cast<int>(boxes.size()),
                   [&](int i) { return MessageOf(boxes[static_cast<std::size_t>(i)]); });
+  if (!unread.empty()) {
+    json += R"(,"unread":)";
+    json += ArrayOf(static_cast<int>(unread.size()),
+                    [&](int i) { return Dump(unread[static_cast<std::size_t>(i)]); });
+  }
   return json + "}\n";
 }
 

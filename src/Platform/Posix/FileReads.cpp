@@ -31,6 +31,7 @@ std::size_t FileSource::ReadAt(std::uint64_t offset, char* buffer, std::size_t s
   do {
     got = pread(file_.Get(), buffer, size, static_cast<off_t>(offset));
   } while (got < 0 && errno == EINTR);
+  if (got < 0) error_ = errno;
   return got < 0 ? 0 : static_cast<std::size_t>(got);
 }
 

@@ -20,9 +20,12 @@ class FileSource : public records::ByteSource {
  public:
   explicit FileSource(const FileDescriptor& file) : file_(file) {}
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override;
+  // The errno of the last reading that failed, 0 if none did.
+  int Error() const { return error_; }
 
  private:
   const FileDescriptor& file_;
+  int error_ = 0;
 };
 
 // Appends what the file holds, at most records::kMaxProfile bytes, to `bytes`; 0, or the errno of

@@ -6,28 +6,25 @@
 
 #include "Platform/Posix/Errors.h"
 #include "Platform/Posix/FileReads.h"
-#include "Platform/Records/ProfileFile.h"
 #include "Platform/Records/VersionResource.h"
 
 namespace trovex::posix {
 
-std::shared_ptr<ListedDirectory> ListedDirectory::Read(FileTable& files, FileDescriptor directory,
-                                                       Level level) {
+std::shared_ptr<ListedDirectory> ListedDirectory::Read(FileTable& files, FileDescriptor directory) {
   auto listing = Listing::Read(directory);
   if (!listing) return nullptr;
-  return std::make_shared<ListedDirectory>(files, std::move(directory), level, std::move(listing));
+  return std::make_shared<ListedDirectory>(files, std::move(directory), std::move(listing));
 }
 
-ListedDirectory::ListedDirectory(FileTable& files, FileDescriptor directory, Level level,
+ListedDirectory::ListedDirectory(FileTable& files, FileDescriptor directory,
                                  std::shared_ptr<const Listing> listing)
     : files_(files),
       directory_(std::move(directory)),
-      level_(level),
       listing_(std::move(listing)),
       entries_(listing_) {}
 
 std::shared_ptr<HeldDirectory> ListedDirectory::OpenDirectory(const ListedEntry& entry) {
-  return Read(files_, OpenDirectoryAt(directory_.Get(), HostName(entry)), Level::kBelow);
+  return Read(files_, OpenDirectoryAt(directory_.Get(), HostName(entry)));
 }
 
 bool ListedDirectory::GetFileStatus(const ListedEntry& entry, FileStatus& status) {
@@ -54,26 +51,26 @@ FileHandle ListedDirectory::OpenRead(const ListedEntry& entry) {
   return files_.Add(std::move(file));
 }
 
-bool ListedDirectory::GetFileProperties(const ListedEntry& entry, FileStatus& status,
-                                        std::string& record) {
+Reading ListedDirectory::GetFileProperties(const ListedEntry& entry, FileStatus& status,
+                                           std::string& record) {
   record.clear();
   const FileDescriptor file = OpenFile(entry);
   struct stat host;
   // What cannot be opened may have a status all the same.
-  if (!file.IsOpen()) return GetFileStatus(entry, status);
-  if (fstat(file.Get(), &host) != 0 || !StatusOf(host, entry.name, status)) return false;
+  if (!file.IsOpen()) return GetFileStatus(entry, status) ? Reading::kStatus : Reading::kNothing;
+  if (fstat(file.Get(), &host) != 0 || !StatusOf(host, entry.name, status)) {
+    return Reading::kNothing;
+  }
   FileSource source(file);
   record = records::ReadVersionRecord(source);
-  return true;
+  return source.Error() == 0 ? Reading::kAll : Reading::kStatus;
 }
 
-std::uint32_t ListedDirectory::GetPrivateProfileString(const Text& section, const Text& key,
-                                                       const Text& fallback, Text& buffer,
-                                                       std::uint32_t size,
-                                                       const ListedEntry& entry) {
-  std::string bytes;
-  if (ReadProfile(OpenFile(entry), bytes) != 0) bytes.clear();
-  return records::ProfileAnswer(bytes, section, key, fallback, buffer, size);
+int ListedDirectory::ExtractIconEx(const ListedEntry& entry, int) {
+  const FileDescriptor file = OpenFile(entry);
+  if (!file.IsOpen()) return 0;
+  FileSource source(file);
+  return records::HoldsIcon(source) ? 1 : 0;
 }
 
 }  // namespace trovex::posix

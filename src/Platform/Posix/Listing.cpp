@@ -173,7 +173,8 @@ std::shared_ptr<const Listing> Listing::Read(const FileDescriptor& directory) {
     if (!IsDots(entry->d_name)) listing->Add(entry->d_name, KindOf(directory.Get(), *entry));
   }
   // A directory that breaks off half-way, as on a scratched disc, gives what was readable.
-  if (errno != 0 && listing->records_.empty()) return nullptr;
+  listing->whole_ = errno == 0;
+  if (!listing->whole_ && listing->records_.empty()) return nullptr;
   listing->Arrange();
   return listing;
 }

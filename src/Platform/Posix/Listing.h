@@ -36,6 +36,8 @@ class Listing : public DirectoryEntries {
   // Reads a directory that is no link. Null with the reason in errno.
   static std::shared_ptr<const Listing> Read(const std::string& host);
 
+  // False where the reading broke off before the end.
+  bool IsWhole() const { return whole_; }
   // Entries of every kind; those of kind kOther come with the others.
   std::size_t Count() const { return records_.size(); }
   DirectoryEntry At(std::size_t index) const;
@@ -75,6 +77,7 @@ class Listing : public DirectoryEntries {
   std::vector<Record> records_;
   Text names_;
   std::string host_names_;
+  bool whole_ = true;
   bool plain_ = true;  // every host name is ASCII and shows as it is
 };
 

@@ -82,6 +82,7 @@ class PosixHost : public Host {
   PosixHost(const std::string& directory, char16_t drive)
       : drive_(ToUpper(drive)),
         root_drive_(drive_ == u'Z' ? u'Y' : u'Z'),
+        given_(directory),
         platform_(Setup(directory)) {
     FillRegistry(platform_.Registry());
   }
@@ -99,6 +100,13 @@ class PosixHost : public Host {
                                            Variable("HOME")));
   }
 
+  std::string UserNameOf(const Text& name) override {
+    const bool disc = !name.empty() && ToUpper(name[0]) == drive_;
+    const std::string path = platform_.PathBelowRoot(name);
+    if (!disc) return path.empty() ? "/" : path;
+    return given_ + (given_.ends_with('/') ? path.substr(path.empty() ? 0 : 1) : path);
+  }
+
  private:
   PosixSetup Setup(const std::string& directory) const {
     const fs::path real = RealPath(directory);
@@ -113,6 +121,7 @@ class PosixHost : public Host {
   }
 
   char16_t drive_, root_drive_;
+  std::string given_;  // the directory as the user wrote it
   PosixPlatform platform_;
 };
 

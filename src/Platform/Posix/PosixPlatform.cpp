@@ -3,10 +3,12 @@
 #include <fcntl.h>
 #include <sys/utsname.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <vector>
 
+#include "Platform/Encoding.h"
 #include "Platform/Pattern.h"
 #include "Platform/Posix/Errors.h"
 #include "Platform/Posix/FileReads.h"
@@ -45,7 +47,7 @@ int FileError(const Place& place) {
   return 0;
 }
 
-// Opens a file for reading at offsets; 0, or the errno of the failure.
+// Opens a file for reading at offsets; 0, or the errno of the failure, of a reading too.
 template <typename Use>
 int WithSource(const Place& place, Use use) {
   if (const int unusable = FileError(place)) return unusable;
@@ -55,7 +57,7 @@ int WithSource(const Place& place, Use use) {
   if (!file.IsOpen()) return errno;
   FileSource source(file);
   use(source);
-  return 0;
+  return source.Error();
 }
 
 // The name if it fits with its terminator, else the size that it needs.
@@ -173,21 +175,15 @@ void PosixPlatform::FindClose(FindHandle handle) {
 std::shared_ptr<HeldDirectory> PosixPlatform::OpenDirectory(const Text& directory) {
   if (directory.ends_with(u':')) return OpenDirectory(directory + u'\\');  // not the current one
   FileDescriptor opened;
-  bool root = false;
   const int error = OnPlace(directory, [&](const Place& place) {
     if (place.kind != EntryKind::kDirectory) return ENOTDIR;
     opened = posix::OpenDirectory(place.host);
-    root = place.name.empty();
     return opened.IsOpen() ? 0 : errno;
   });
   if (error != 0) return nullptr;
-  const auto level = root ? ListedDirectory::Level::kRoot : ListedDirectory::Level::kBelow;
-  auto held = ListedDirectory::Read(files_, std::move(opened), level);
+  auto held = ListedDirectory::Read(files_, std::move(opened));
   if (!held) last_error_ = errno;
-  std::size_t start = 0;
-  ListedEntry any;
-  const bool empty_root = held && root && !held->Entries()->Next(start, any);
-  return empty_root ? nullptr : held;
+  return held;
 }
 
 // --- Files --------------------------------------------------------------------------------------
@@ -214,7 +210,6 @@ FileHandle PosixPlatform::OpenRead(const Text& name) {
 }
 
 FileHandle PosixPlatform::OpenWrite(const Text& name) {
-  BeforeWriting();
   FileDescriptor file;
   Unfinished unfinished;
   const SignalsHeld held;
@@ -239,7 +234,6 @@ std::size_t PosixPlatform::Read(FileHandle file, void* buffer, std::size_t size)
 }
 
 void PosixPlatform::Write(FileHandle file, const void* data, std::size_t size) {
-  BeforeWriting();
   if (!WriteFully(files_.Get(file), data, size)) Raise(errno);
 }
 
@@ -251,7 +245,6 @@ void PosixPlatform::Close(FileHandle file) {
 }
 
 void PosixPlatform::CopyFile(const Text& source, const Text& destination) {
-  BeforeWriting();
   FileDescriptor from;
   int error = OnPlace(source, [&](const Place& place) {
     if (const int unusable = FileError(place)) return unusable;
@@ -271,7 +264,6 @@ void PosixPlatform::CopyFile(const Text& source, const Text& destination) {
 }
 
 void PosixPlatform::DeleteFile(const Text& name) {
-  BeforeWriting();
   const int error = OnPlace(name, [](const Place& place) {
     if (const int unusable = FileError(place)) return unusable;
     struct stat status;
@@ -318,9 +310,13 @@ bool PosixPlatform::MakeDirectory(const Text& name) {
 
 std::string PosixPlatform::ReadVersionBlock(const Text& name) {
   std::string block;
-  OnPlace(name, [&](const Place& place) {
+  const int error = OnPlace(name, [&](const Place& place) {
     return WithSource(place, [&](ByteSource& source) { block = ReadVersionRecord(source); });
   });
+  const ErrorNumber number = ErrorNumberOf(error);
+  const bool unreadable =
+      number == ErrorNumber::kPermissionDenied || number == ErrorNumber::kDeviceIo;
+  if (error != 0 && unreadable) Raise(error);
   return block;
 }
 
@@ -333,15 +329,11 @@ int PosixPlatform::ExtractIconEx(const Text& file, int) {
 }
 
 std::uint32_t PosixPlatform::GetFileVersionInfoSize(const Text& name) {
-  version_.name = name;
-  version_.block = ReadVersionBlock(name);
-  return static_cast<std::uint32_t>(version_.block.size());
+  return static_cast<std::uint32_t>(ReadVersionBlock(name).size());
 }
 
 bool PosixPlatform::GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) {
-  const bool measured = !version_.block.empty() && version_.name == name;
-  block = measured ? std::move(version_.block) : ReadVersionBlock(name);
-  version_ = {};
+  block = ReadVersionBlock(name);
   if (block.empty()) return false;
   block.resize(length, '\0');
   return true;
@@ -361,7 +353,6 @@ std::uint32_t PosixPlatform::GetPrivateProfileString(const Text& section, const 
 
 bool PosixPlatform::WritePrivateProfileString(const Text& section, const Text& key,
                                               const Text& value, const Text& file) {
-  BeforeWriting();
   const int error = OnPlace(file, [&](const Place& place) {
     const int unusable = FileError(place);
     if (unusable != 0 && unusable != ENOENT) return unusable;
@@ -413,7 +404,6 @@ Text PosixPlatform::GetCurrentDirectory() {
 }
 
 void PosixPlatform::ChangeDirectory(const Text& directory) {
-  version_ = {};
   const int error = OnPlace(directory, [](const Place& place) {
     struct stat status;
     if (place.kind != EntryKind::kDirectory) return ENOTDIR;
@@ -425,7 +415,6 @@ void PosixPlatform::ChangeDirectory(const Text& directory) {
 }
 
 void PosixPlatform::ChangeDrive(const Text& drive) {
-  version_ = {};
   if (drive.empty() || !drives_.SetDrive(drive[0])) Raise(ENODEV);
 }
 
@@ -494,9 +483,15 @@ double PosixPlatform::Random() {
   return static_cast<double>(random_() >> 11) * 0x1p-53;
 }
 
-void PosixPlatform::Forget() {
-  names_.Forget();
-  version_ = {};
+std::string PosixPlatform::PathBelowRoot(const Text& name) {
+  const Drive* drive = name.empty() ? nullptr : drives_.Find(name[0]);
+  const std::optional<Place> place = names_.Find(name);
+  if (drive == nullptr || !place) {
+    std::string path = ToUtf8(name.substr(std::min<std::size_t>(name.size(), 2)));
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+  }
+  return place->name.empty() ? "" : place->host.substr(drive->root.size());
 }
 
 Text PosixPlatform::NameOfHost(char16_t letter, const std::string& path) {

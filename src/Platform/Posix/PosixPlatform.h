@@ -95,7 +95,6 @@ class PosixPlatform : public Platform {
   std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
   double Random() override;
-  void Forget() override;
 
   // The registry: empty, for whoever sets up the platform to fill.
   posix::RegistryTable& Registry() { return registry_; }
@@ -103,20 +102,16 @@ class PosixPlatform : public Platform {
   // The name by which the program reaches an absolute host path on the drive `letter`, whose root
   // is in front of it. What is missing keeps its spelling, for a new file to be created so.
   Text NameOfHost(char16_t letter, const std::string& path);
+  // The way back: what stands behind the host directory of the drive, "/JEUX/SETUP.EXE", empty for
+  // its root. What cannot be found keeps its spelling.
+  std::string PathBelowRoot(const Text& name);
 
  private:
-  // The last version record read, kept for the call that fetches what was just measured.
-  struct VersionMemo {
-    Text name;
-    std::string block;
-  };
   // Runs `use` on the place of a name; if what memory held of it turns out to be gone, once more
   // on what is found afresh. 0, or the errno of the failure, which GetLastError then knows.
   template <typename Use>
   int OnPlace(const Text& name, Use use);
   [[noreturn]] void Raise(int error);
-  // Forgets what a change of the disk makes wrong.
-  void BeforeWriting() { version_ = {}; }
   FindHandle FindSingle(const Text& name, FindData& data);
   std::string ReadVersionBlock(const Text& name);
 
@@ -126,7 +121,6 @@ class PosixPlatform : public Platform {
   posix::FileTable files_;
   std::map<FileHandle, posix::Unfinished> unfinished_;  // those of files_ that are being written
   PosixSetup setup_;
-  VersionMemo version_;
   posix::RegistryTable registry_;
   posix::SnapshotTable snapshots_;
   int last_error_ = 0;

@@ -47,8 +47,11 @@ bool Search::Advance(FindData& data) {
       handle_ = OwnFind(FirstEntry(Wide(question_), entry));
       question_.clear();
       if (!handle_) return false;
-    } else if (!handle_ || !FindNextFileW(handle_.get(), &entry)) {
+    } else if (!handle_) {
       return false;
+    } else if (!FindNextFileW(handle_.get(), &entry)) {
+      if (::GetLastError() == ERROR_NO_MORE_FILES) return false;
+      throw RuntimeError(ErrorNumber::kDeviceIo);
     }
     if (!Accepts(&entry)) continue;
     data.attributes = entry.dwFileAttributes;

@@ -174,6 +174,4 @@ double Win32Platform::Random() {
   return std::uniform_real_distribution<double>(0.0, 1.0)(random_);
 }
 
-void Win32Platform::Forget() {}
-
 }  // namespace trovex

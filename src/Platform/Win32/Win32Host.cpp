@@ -14,6 +14,7 @@ class Win32Host : public Host {
   Platform& GetPlatform() override { return platform_; }
   Text Start() override { return start_; }
   Text NameOf(const std::string& argument) override { return FullName(FromUtf8(argument)); }
+  std::string UserNameOf(const Text& name) override { return ToStrictUtf8(name); }
 
  private:
   Text start_;

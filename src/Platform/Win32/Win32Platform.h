@@ -70,7 +70,6 @@ class Win32Platform : public Platform {
   std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
   double Random() override;
-  void Forget() override;
 
  private:
   FileHandle Keep(OwnedFile file);

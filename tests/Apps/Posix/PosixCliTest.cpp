@@ -1,9 +1,11 @@
 // What the command line does with things that only this system has.
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "Apps/CliTest.h"
+#include "support/Posix/OrdinaryUser.h"
 
 namespace trovex::test {
 namespace {
@@ -68,7 +70,7 @@ TEST_F(PosixCliTest, ControlCharactersDoNotReachATerminal) {
 TEST_F(PosixCliTest, ErrorBoxesAreRecordedAndGoToStandardErrorAsOftenAsTheyCome) {
   disc_.File("JEU.EXE", DosExecutable());
   std::filesystem::create_symlink("/proc/self/mem", disc_.HostPath("README.TXT"));
-  EXPECT_EQ(Run({"--json"}), cli::kDone);
+  EXPECT_EQ(Run({"--json"}), cli::kIncomplete);
   const Json catalogue = Json::parse(out_);
   const Json& messages = catalogue["messages"];
   // Two lines in each of two passes.
@@ -84,11 +86,90 @@ TEST_F(PosixCliTest, ErrorBoxesAreRecordedAndGoToStandardErrorAsOftenAsTheyCome)
   std::istringstream lines(err_);
   std::string line;
   int count = 0;
-  while (std::getline(lines, line)) {
+  while (std::getline(lines, line) && line.find("Lecture") == std::string::npos) {
     ++count;
     EXPECT_THAT(line, StartsWith("trovex-cli: Ouverture impossibleD:\\readme.txt"));
   }
   EXPECT_EQ(count, 4);
+  EXPECT_EQ(line, "trovex-cli: Lecture impossible : " + Argument("README.TXT"));
+}
+
+// --- What could not be read ---
+
+class UnreadCliTest : public PosixCliTest {
+ protected:
+  void Lock(const std::string& path) {
+    std::filesystem::permissions(disc_.HostPath(path), std::filesystem::perms::none);
+    locked_.push_back(path);
+  }
+  ~UnreadCliTest() override {
+    for (const std::string& path : locked_) {
+      std::filesystem::permissions(disc_.HostPath(path), std::filesystem::perms::owner_all);
+    }
+  }
+  static std::string Line(const std::string& text) {
+    return "trovex-cli: Lecture impossible : " + text + "\n";
+  }
+
+  std::vector<std::string> locked_;
+  const OrdinaryUser user_;
+};
+
+TEST_F(UnreadCliTest, NothingThatWasReadIsToldAndTheStatusIsZero) {
+  disc_.File("A.EXE", DosExecutable());
+  EXPECT_FALSE(Catalogue({"--inspect"}).contains("unread"));
+}
+
+TEST_F(UnreadCliTest, DirectoriesAndProgramsThatAreRefusedAreToldWithTheUsersOwnNames) {
+  disc_.File("JEUX/SECRET/A.EXE", DosExecutable());
+  disc_.File("JEUX/B.EXE", DosExecutable());
+  disc_.File("C.EXE", DosExecutable());
+  Lock("JEUX/SECRET");
+  Lock("JEUX/B.EXE");
+  EXPECT_EQ(Run({"--json", "--quiet"}), cli::kIncomplete);
+  const Json catalogue = Json::parse(out_);
+  EXPECT_EQ(catalogue["unread"], Json({"D:\\Jeux\\B.EXE", "D:\\Jeux\\Secret"}));
+  EXPECT_EQ(catalogue["tables"][1]["rows"].size(), 2u);
+  EXPECT_EQ(err_, Line(Argument("JEUX/B.EXE")) + Line(Argument("JEUX/SECRET")));
+}
+
+TEST_F(UnreadCliTest, AnIniFileThatIsRefusedIsToldThoughNoBoxComesUp) {
+  disc_.File("A.EXE", DosExecutable());
+  disc_.File("SETUP.LST", "[Setup]\r\nTitle=Jeu\r\n");
+  Lock("SETUP.LST");
+  EXPECT_EQ(Run({"--json"}), cli::kIncomplete);
+  EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\SETUP.LST"}));
+  EXPECT_EQ(Json::parse(out_)["messages"].size(), 0u);
+}
+
+TEST_F(UnreadCliTest, ACompanionThatIsRefusedIsToldByTheInspection) {
+  disc_.File("A.EXE", DosExecutable());
+  disc_.File("JEUX/B.EXE", DosExecutable());
+  disc_.File("JEUX/NOTES.TXT", "texte");
+  Lock("JEUX/NOTES.TXT");
+  EXPECT_EQ(Run({"--json"}), cli::kDone);
+  EXPECT_EQ(Run({"--json", "--inspect"}), cli::kIncomplete);
+  EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\Jeux\\Notes.txt"}));
+}
+
+TEST_F(UnreadCliTest, TwentyAreToldByNameAndTheOthersCounted) {
+  for (int i = 10; i < 35; ++i) {
+    const std::string name = "P" + std::to_string(i) + ".EXE";
+    disc_.File(name, DosExecutable());
+    Lock(name);
+  }
+  EXPECT_EQ(Run({"--json"}), cli::kIncomplete);
+  EXPECT_EQ(Json::parse(out_)["unread"].size(), 25u);
+  EXPECT_EQ(std::count(err_.begin(), err_.end(), '\n'), 21);
+  EXPECT_THAT(err_, StartsWith(Line(Argument("P10.EXE"))));
+  EXPECT_THAT(err_, testing::EndsWith(Line(Argument("P29.EXE")) + Line("5 autres")));
+}
+
+TEST_F(UnreadCliTest, AnExportThatFailsGoesBefore) {
+  disc_.File("A.EXE", DosExecutable());
+  Lock("A.EXE");
+  EXPECT_EQ(Run({"--quiet", "--csv", Argument("RIEN/A.CSV")}), cli::kExportFailed);
+  EXPECT_THAT(err_, HasSubstr(Line(Argument("A.EXE"))));
 }
 
 }  // namespace

@@ -60,13 +60,6 @@ TEST_P(HeldDirectoryContract, ComesInTheOrderOfASearch) {
   EXPECT_EQ(Names(*Open(u"D:\\")->Entries()), FindAll(u"D:\\*.*"));
 }
 
-TEST_P(HeldDirectoryContract, TellsWhetherASearchFindsSelfAndParent) {
-  disc_.Directory("JEUX");
-  EXPECT_FALSE(Open(u"D:\\")->HasDots());
-  EXPECT_TRUE(Open(u"D:\\JEUX")->HasDots());
-  EXPECT_THAT(Names(*Open(u"D:\\JEUX\\")->Entries()), IsEmpty());
-}
-
 TEST_P(HeldDirectoryContract, ADriveWithoutBackslashIsItsRoot) {
   disc_.File("JEUX/A.EXE");
   platform_.ChangeDirectory(u"D:\\JEUX");
@@ -75,8 +68,16 @@ TEST_P(HeldDirectoryContract, ADriveWithoutBackslashIsItsRoot) {
   EXPECT_THAT(Names(*held->Entries()), ElementsAre(u"JEUX"));
 }
 
-TEST_P(HeldDirectoryContract, NothingIsHeldOfWhatIsMissingAFileOrAnEmptyRoot) {
-  EXPECT_FALSE(Open(u"D:\\"));
+TEST_P(HeldDirectoryContract, AnEmptyDirectoryAndAnEmptyRootAreHeldWithoutEntries) {
+  EXPECT_THAT(Names(*Open(u"D:\\")->Entries()), IsEmpty());
+  EXPECT_THAT(Names(*Open(u"D:")->Entries()), IsEmpty());
+  disc_.Directory("JEUX");
+  EXPECT_THAT(Names(*Open(u"D:\\JEUX")->Entries()), IsEmpty());
+  EXPECT_THAT(Names(*Open(u"D:\\JEUX\\")->Entries()), IsEmpty());
+  EXPECT_TRUE(Open(u"D:\\JEUX")->IsWhole());
+}
+
+TEST_P(HeldDirectoryContract, NothingIsHeldOfWhatIsMissingOrAFile) {
   disc_.File("A.TXT");
   EXPECT_FALSE(Open(u"D:\\RIEN"));
   EXPECT_FALSE(Open(u"D:\\A.TXT"));
@@ -118,32 +119,27 @@ TEST_P(HeldDirectoryContract, OpensFilesAndDirectoriesItHolds) {
   const auto games = Open(u"D:\\JEUX");
   const auto draughts = games->OpenDirectory(Entry(*games, u"dames"));
   ASSERT_TRUE(draughts);
-  EXPECT_TRUE(draughts->HasDots());
   EXPECT_EQ(Rest(draughts->OpenRead(Entry(*draughts, u"README.TXT"))), "texte");
   EXPECT_FALSE(draughts->OpenDirectory(Entry(*draughts, u"README.TXT")));
   EXPECT_EQ(ErrorOf([&] { games->OpenRead(Entry(*games, u"DAMES")); }),
             ErrorNumber::kPathFileAccess);
 }
 
-TEST_P(HeldDirectoryContract, ReadsRecordsAndProfiles) {
+TEST_P(HeldDirectoryContract, ReadsRecordsAndIcons) {
   const std::string block = VersionBlock8({{"FileVersion", "1.0"}});
   disc_.File("A.EXE", NeExecutable(block));
   disc_.File("B.EXE", DosExecutable());
-  disc_.File("SETUP.LST", "[Setup]\r\nTitle=Mon Jeu\r\n");
+  disc_.File("C.ICO", IconFile());
   const auto held = Open(u"D:\\");
   FileStatus status;
   std::string record = "reste";
-  EXPECT_TRUE(held->GetFileProperties(Entry(*held, u"A.EXE"), status, record));
+  EXPECT_EQ(held->GetFileProperties(Entry(*held, u"A.EXE"), status, record), Reading::kAll);
   EXPECT_EQ(record, block);
   EXPECT_EQ(status.length, static_cast<std::int64_t>(NeExecutable(block).size()));
-  EXPECT_TRUE(held->GetFileProperties(Entry(*held, u"B.EXE"), status, record));
+  EXPECT_EQ(held->GetFileProperties(Entry(*held, u"B.EXE"), status, record), Reading::kAll);
   EXPECT_EQ(record, "");
-  Text buffer;
-  const ListedEntry list = Entry(*held, u"SETUP.LST");
-  EXPECT_EQ(held->GetPrivateProfileString(u"setup", u"title", u"", buffer, 255, list), 7u);
-  EXPECT_EQ(buffer, u"Mon Jeu");
-  held->GetPrivateProfileString(u"Setup", u"Autre", u"rien ", buffer, 255, list);
-  EXPECT_EQ(buffer, u"rien");
+  EXPECT_EQ(held->ExtractIconEx(Entry(*held, u"C.ICO"), 0), 1);
+  EXPECT_EQ(held->ExtractIconEx(Entry(*held, u"B.EXE"), 0), 0);
 }
 
 TEST_P(HeldDirectoryContract, AnEntryThatHasGoneIsMissing) {
@@ -156,13 +152,11 @@ TEST_P(HeldDirectoryContract, AnEntryThatHasGoneIsMissing) {
   FileStatus status;
   std::string record = "reste";
   EXPECT_FALSE(held->GetFileStatus(file, status));
-  EXPECT_FALSE(held->GetFileProperties(file, status, record));
+  EXPECT_EQ(held->GetFileProperties(file, status, record), Reading::kNothing);
   EXPECT_EQ(record, "");
+  EXPECT_EQ(held->ExtractIconEx(file, 0), 0);
   EXPECT_EQ(ErrorOf([&] { held->OpenRead(file); }), ErrorNumber::kFileNotFound);
   EXPECT_FALSE(held->OpenDirectory(directory));
-  Text buffer;
-  held->GetPrivateProfileString(u"Setup", u"Title", u"rien", buffer, 255, file);
-  EXPECT_EQ(buffer, u"rien");
 }
 
 TEST_P(HeldDirectoryContract, EntriesStayAsTheyWereRead) {
@@ -179,14 +173,14 @@ TEST_P(HeldDirectoryContract, StatusAndRecordComeAtOnce) {
   disc_.File("VIDE.EXE");
   FileStatus status;
   std::string record;
-  EXPECT_TRUE(Asked().GetFileProperties(u"D:\\A.EXE", status, record));
+  EXPECT_EQ(Asked().GetFileProperties(u"D:\\A.EXE", status, record), Reading::kAll);
   EXPECT_EQ(record, block);
   EXPECT_EQ(status.modified, (LocalTime{1996, 2, 29, 10, 20, 30}));
-  EXPECT_TRUE(Asked().GetFileProperties(u"D:\\VIDE.EXE", status, record));
+  EXPECT_EQ(Asked().GetFileProperties(u"D:\\VIDE.EXE", status, record), Reading::kAll);
   EXPECT_EQ(record, "");
   EXPECT_EQ(status.length, 0);
   record = "reste";
-  EXPECT_FALSE(Asked().GetFileProperties(u"D:\\RIEN.EXE", status, record));
+  EXPECT_EQ(Asked().GetFileProperties(u"D:\\RIEN.EXE", status, record), Reading::kNothing);
   EXPECT_EQ(record, "");
 }
 

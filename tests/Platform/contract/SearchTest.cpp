@@ -232,7 +232,6 @@ TEST_F(SearchContract, WhatOthersChangeIsSeen) {
   EXPECT_THAT(FindAll(u"D:\\*"), ElementsAre(u"B.EXE"));
   EXPECT_THAT(FindAll(u"D:\\A.EXE"), IsEmpty());
   disc_.Remove("B.EXE");
-  platform_.Forget();
   EXPECT_THAT(FindAll(u"D:\\*"), IsEmpty());
 }
 

@@ -3,6 +3,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 #include "Scanner/ScanTest.h"
 
 namespace trovex::test {
@@ -107,6 +109,28 @@ TEST_F(SpecialFilesTest, AVeryDeepTreeIsWalkedToItsEnd) {
   ASSERT_EQ(Rows(1).size(), 1u);
   EXPECT_EQ(Only(1)[1].size(), 3 + kDepth * (level.size() + 1));
   EXPECT_EQ(Only(1)[2], u" Fond.exe");
+}
+
+// How many directories this process holds open.
+int OpenDirectories() {
+  std::error_code gone;
+  return static_cast<int>(std::count_if(
+      fs::directory_iterator("/proc/self/fd"), fs::directory_iterator(),
+      [&](const fs::directory_entry& entry) { return fs::is_directory(entry.path(), gone); }));
+}
+
+TEST_F(SpecialFilesTest, OfAVeryDeepTreeTheUpperDirectoriesAreClosedAndTheWalkGoesOn) {
+  std::string path;
+  for (int depth = 0; depth < 100; ++depth) {
+    path += "N/";
+    disc.File(path + "A.EXE");
+    disc.File(path + "Z/B.EXE");  // its turn comes when the walk is back from below
+  }
+  int most = 0;
+  platform_.before_listing = [&](const Text&) { most = std::max(most, OpenDirectories()); };
+  Scan();
+  EXPECT_EQ(Rows(1).size(), 200u);
+  EXPECT_LE(most, 70);
 }
 
 }  // namespace
