@@ -1,5 +1,5 @@
 // Whether a file holds an icon.
-#include "Platform/Records/VersionResource.h"
+#include "Platform/Records/IconResource.h"
 #include "support/ExecutableBuilder.h"
 #include "support/MemorySource.h"
 #include "support/Target.h"
@@ -7,10 +7,10 @@
 namespace trovex::fuzz {
 namespace {
 
-constexpr int kMostReads = 1100;
+constexpr int kMostReads = 64 * 1100;  // of as many images as a group may have
 
 bool Holds(std::string_view file) {
-  MemorySource source(file);
+  test::MemorySource source(file);
   const bool holds = records::HoldsIcon(source);
   Promise(source.reads <= kMostReads, "a file is read in few pieces");
   return holds;
@@ -21,7 +21,7 @@ bool Holds(std::string_view file) {
 void Try(std::string_view input) {
   const bool holds = Holds(input);
   Promise(Holds(input) == holds, "the same file gives the same answer");
-  MemorySource slow(input, 500);
+  test::MemorySource slow(input, 500);
   Promise(records::HoldsIcon(slow) == holds, "a source may give little at a time");
   Promise(holds || !Holds(input.substr(0, input.size() / 4 * 3)),
           "what a part of the file shows the whole file shows");

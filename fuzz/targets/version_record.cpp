@@ -10,7 +10,7 @@ namespace {
 constexpr int kMostReads = 1100;
 
 std::string RecordOf(std::string_view file) {
-  MemorySource source(file);
+  test::MemorySource source(file);
   const std::string record = records::ReadVersionRecord(source);
   Promise(source.reads <= kMostReads, "a file is read in few pieces");
   return record;
@@ -30,7 +30,7 @@ void Try(std::string_view input) {
     Promise(LengthWord(record) == record.size(), "a record has the length that it tells");
   }
   Promise(RecordOf(input) == record, "the same file has the same record");
-  MemorySource slow(input, 500);
+  test::MemorySource slow(input, 500);
   Promise(records::ReadVersionRecord(slow) == record, "a source may give little at a time");
   const std::string cut = RecordOf(input.substr(0, input.size() / 4 * 3));
   Promise(cut.empty() || cut == record, "a file cut short has the whole record or none");

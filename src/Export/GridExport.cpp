@@ -45,34 +45,40 @@ void WriteLine(int hFichier, Grid& grid, int r, const Text& sSeparateur, const T
 
 }  // namespace
 
-void GridExport(Grid& grid, const Text& sFichier, const std::optional<Text>& sSeparateur,
-                const std::optional<Text>& sGuillemet) {
+ExportOutcome GridExport(Grid& grid, const Text& sFichier, const std::optional<Text>& sSeparateur,
+                         const std::optional<Text>& sGuillemet) {
   const int hFichier = iOuvreEcriture(sFichier);
-  if (hFichier == kNotOpened) return;
+  if (hFichier == kNotOpened) return ExportOutcome::kFailed;
   try {
     const Text sEntre = sSeparateur.value_or(u"\t");
     const Text sAutour = sGuillemet.value_or(u"");
     const int iLignes = grid.Rows();
     for (int r = 0; r < iLignes; ++r) WriteLine(hFichier, grid, r, sEntre, sAutour);
     CloseFile(hFichier);
+    return ExportOutcome::kWritten;
   } catch (const RuntimeError& error) {
     IgnoringErrors([&] { CloseFile(hFichier); });
     Err().Set(error);
     MessageErreur(u"GridExport()");
+    return ExportOutcome::kFailed;
   }
 }
 
-void GridExportAscii(Grid& grid) {
+ExportOutcome GridExportAscii(Grid& grid) {
   const int iChoisi = iChoix(true, ResString(StringId::kChoixExport), FormatOf(0).sNom,
                              FormatOf(1).sNom, 0, FormatOf(2).sNom);
-  if (iChoisi < 0 || iChoisi > 2) return BusyOff();
+  if (iChoisi < 0 || iChoisi > 2) {
+    BusyOff();
+    return ExportOutcome::kCancelled;
+  }
   const Format& format = FormatOf(iChoisi);
   const Text sFichier = sDialogueFichier(ResString(format.titre), ResString(format.filtre),
                                          format.sExtension, Text(u"Fichier") + format.sExtension);
-  if (Trimmed(sFichier).empty()) return;
+  if (Trimmed(sFichier).empty()) return ExportOutcome::kCancelled;
   BusyOn();
-  GridExport(grid, sFichier, format.sSeparateur, format.sGuillemet);
+  const ExportOutcome outcome = GridExport(grid, sFichier, format.sSeparateur, format.sGuillemet);
   BusyOff();
+  return outcome;
 }
 
 }  // namespace trovex

@@ -20,6 +20,9 @@ void OpenOutput(int number, const Text& name);
 // True at the end of a file that was opened for reading. Raises kDeviceIo.
 bool AtEnd(int number);
 
+// No line of a text is taken further by whoever only looks at it.
+inline constexpr std::size_t kLongestLine = 1048576;  // characters
+
 inline constexpr std::size_t kWholeLine = std::numeric_limits<std::size_t>::max();
 
 // The next line, without its end (CR LF, CR or LF); only its first `longest` characters are kept,

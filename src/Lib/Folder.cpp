@@ -83,7 +83,7 @@ Reading FileInHand::GetFileProperties(FileStatus& status, std::string& record) c
 
 int FileInHand::ExtractIconEx(int index) const {
   return held_ != nullptr ? held_->ExtractIconEx(entry_, index)
-                          : CurrentPlatform().ExtractIconEx(Name(), index);
+                          : CurrentPlatform().ExtractIconEx(Name(), index, IconOwner::kDisc);
 }
 
 void FileInHand::NoteUnread() const {

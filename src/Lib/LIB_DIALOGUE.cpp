@@ -38,15 +38,16 @@ void Sound(BoxStyle style) {
 
 void MessageErreur(TextView sTexte) {
   CurrentView().SetPointer(Pointer::kDefault);
-  // The code must be read before anything else asks the system.
-  const Text sSysteme = sMessageSysteme();
   Sound(BoxStyle::kErreur);
-  Show(BoxStyle::kErreur, {}, StringId::kTitreErreur, Text(sTexte) + DetailsOf(Err(), sSysteme));
+  Show(BoxStyle::kErreur, {}, StringId::kTitreErreur,
+       Text(sTexte) + DetailsOf(Err(), sMessageSysteme()));
   Err().Clear();
 }
 
 Text sMessageSysteme() {
-  const std::uint32_t code = CurrentPlatform().GetLastError();
+  // The code came with the error: the system's own record of its last one knows no more of whose
+  // it was.
+  const std::uint32_t code = Err().system_code;
   if (code == 0) return {};
   const Text sTexte = CurrentPlatform().FormatMessage(code);
   // A text that does not fit is not formatted at all.

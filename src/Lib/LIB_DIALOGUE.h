@@ -9,7 +9,7 @@ namespace trovex {
 // system's last error, follow the text; it is cleared. Takes the hourglass away.
 void MessageErreur(TextView sTexte);
 
-// Text of the system's last error, trimmed; empty if there is none.
+// What the system says of the pending run-time error, trimmed; empty where it has no part in it.
 Text sMessageSysteme();
 
 // The question with Yes, No and Cancel. An empty title stands for the usual one.

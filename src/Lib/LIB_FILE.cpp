@@ -10,7 +10,8 @@ namespace {
 
 constexpr std::uint32_t kDirectoryBuffer = 255;  // characters
 constexpr int kLastLimitedLine = 300;
-constexpr std::size_t kDateAndTime = 19;  // characters
+constexpr std::size_t kLongestText = 4194304;  // characters shown, line ends included
+constexpr std::size_t kDateAndTime = 19;       // characters
 
 Text DirectoryOf(std::uint32_t (FilePort::*operation)(Text&, std::uint32_t)) {
   Text buffer;
@@ -203,12 +204,15 @@ void ChargeTexte(const FileInHand& oFichier, TextBox& oTexte, bool bLimiter) {
   if (iFichier == -1) return;
   try {
     for (int iLigne = 0; !AtEnd(iFichier) && (!bLimiter || iLigne <= kLastLimitedLine); ++iLigne) {
-      const Text sLigne = LineInput(iFichier);
+      Text sLigne = LineInput(iFichier, kLongestLine);
       if (iLigne == 0) {
         oTexte.SetText(sLigne);
-      } else {
-        oTexte.Append(Text(kCrLf) + sLigne);
+        continue;
       }
+      sLigne.insert(0, kCrLf);
+      const std::size_t iPlace = kLongestText - oTexte.GetText().size();
+      oTexte.Append(TextView(sLigne).substr(0, iPlace));
+      if (sLigne.size() >= iPlace) break;
     }
   } catch (const RuntimeError&) {
     oFichier.NoteUnread();  // the lines read so far stay

@@ -52,7 +52,8 @@ bool bCopieFichier(const Text& sSource, const Text& sDestination, bool bConfirme
 // True unless the user refused. `bMessage` reports what could not be deleted.
 bool bEffaceFichier(const Text& sNom, bool bConfirme, bool bMessage = true);
 
-// Shows a text file in the box, line by line; with `bLimiter` its first 301 lines.
+// Shows a text file in the box, line by line; with `bLimiter` its first 301 lines. Of a line it
+// shows kLongestLine characters, of the whole text 4194304.
 void ChargeTexte(const FileInHand& oFichier, TextBox& oTexte, bool bLimiter = false);
 
 // Type of the drive that a letter, "X:" or "X:\" names. Any other text, and the letter P, asks

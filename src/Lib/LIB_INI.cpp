@@ -113,7 +113,10 @@ Text IniEnMain::sLitIni(const Text& sSection, const Text& sCle, const Text& sDef
 }
 
 bool bLitIni(const Text& sSection, const Text& sCle, bool bDefaut, const Text& sFichier) {
-  return Val(sLitIni(sSection, sCle, bDefaut ? u"-1" : u"0", sFichier)) != 0;
+  const Text sValeur = sLitIni(sSection, sCle, bDefaut ? u"-1" : u"0", sFichier);
+  const TextView sMot = Trimmed(sValeur);
+  // What a person writes there, in either language; "False" and "Faux" are no numbers either.
+  return EqualsNoCase(sMot, u"True") || EqualsNoCase(sMot, u"Vrai") || Val(sValeur) != 0;
 }
 
 void PutIniString(const Text& sSection, const Text& sCle, const Text& sValeur,

@@ -32,7 +32,7 @@ class IniEnMain {
   std::optional<std::string> bytes_;
 };
 
-// The value as a Boolean: any number but 0 is true.
+// The value as a Boolean: any number but 0 is true, as are the words True and Vrai.
 bool bLitIni(const Text& sSection, const Text& sCle, bool bDefaut, const Text& sFichier);
 
 // Write a value; a Boolean as -1 or 0. Nothing is written on a CD-ROM drive. A failure is reported

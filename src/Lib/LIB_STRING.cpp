@@ -10,6 +10,8 @@ constexpr std::size_t kLargest = 32767;
 
 const Text kSource = u"LIB_STRING";
 
+std::size_t abandoned = 0;
+
 // What cannot stand in an anchor or a file name: accented letters, blank and tab, signs.
 constexpr TextView kSpeciaux =
     u"ÆÁÂÀÅÃÄÇÐÉÊÈËÍÎÌÏÑÓÔÒØÕÖÞÚÛÙÜÝáâæàåãäçéêèðëíîìïñóôòøõößþúûùüýÿ"
@@ -60,10 +62,15 @@ Text sChangeCaractere(TextView sTexte, TextView sCherche, TextView sRemplace) {
     return sResultat.append(rest);
   } catch (const RuntimeError& error) {
     Err().Set(error);
+    ++abandoned;
     MessageErreur(ResString(StringId::kErreurChangeCaractere) + sResultat + Text(kCrLf) +
                   u"sChangeCaractere(" + Text(sCherche) + u", " + Text(sRemplace) + u")");
     return {};
   }
+}
+
+std::size_t iTextesAbandonnes() {
+  return abandoned;
 }
 
 Text sRemplaceCaracteresSpeciaux(TextView sTexte) {

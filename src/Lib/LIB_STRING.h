@@ -18,6 +18,8 @@ Text sTronqueAuNul(TextView sTexte);
 // empty search, and a text that is empty or blank throughout, come back unchanged. Reports an
 // overflow by the error box and gives an empty text then.
 Text sChangeCaractere(TextView sTexte, TextView sCherche, TextView sRemplace);
+// How many texts it has given up so far: who writes what it gives can tell that some are missing.
+std::size_t iTextesAbandonnes();
 
 // Each accented letter, blank, tab and sign that cannot stand in an anchor or a file name
 // replaced by "_".

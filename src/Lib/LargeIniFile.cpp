@@ -33,7 +33,7 @@ Text ReadValue(int hFichier, const Text& sSection, const Text& sCle, const Text&
   const Text sEntete = HeaderOf(sSection);
   bool bDansSection = false;
   while (!AtEnd(hFichier)) {
-    const Text sLigne = LineInput(hFichier);
+    const Text sLigne = LineInput(hFichier, kLongestLine);
     if (!bDansSection && Trimmed(sLigne) == sEntete) {
       bDansSection = true;
     } else if (Trim(sGaucheDe(sLigne, u"=")) == sCle && bDansSection) {

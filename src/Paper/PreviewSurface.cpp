@@ -190,10 +190,11 @@ void PreviewSurface::PrintGrid(const Grid& grid) {
 
 void PreviewSurface::ShowPreview() {
   pages_.Begin();
+  const bool whole = !pages_.Full();
   const Pages pages = pages_.Take(title_);
   x_ = y_ = 0;
   CurrentView().SetPointer(Pointer::kDefault);
-  CurrentView().ShowPreview({pages, application_, *texts_, [&] { Save(pages); },
+  CurrentView().ShowPreview({pages, whole, application_, *texts_, [&] { Save(pages); },
                              [](const Text& failure) { MessageErreur(failure); }});
 }
 

@@ -29,7 +29,6 @@ class ForwardingMachine : public virtual MachinePort {
   }
   void CloseHandle(SnapshotHandle snapshot) override { target_.CloseHandle(snapshot); }
   void MessageBeep(std::uint32_t type) override { target_.MessageBeep(type); }
-  std::uint32_t GetLastError() override { return target_.GetLastError(); }
   Text FormatMessage(std::uint32_t code) override { return target_.FormatMessage(code); }
   double Random() override { return target_.Random(); }
 

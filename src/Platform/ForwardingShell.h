@@ -21,8 +21,8 @@ class ForwardingShell : public virtual ShellPort {
     target_.StartProgram(command_line, mode);
   }
   bool HasHelpEngine() override { return target_.HasHelpEngine(); }
-  int ExtractIconEx(const Text& file, int index) override {
-    return target_.ExtractIconEx(file, index);
+  int ExtractIconEx(const Text& file, int index, IconOwner owner) override {
+    return target_.ExtractIconEx(file, index, owner);
   }
 
  protected:

@@ -81,8 +81,8 @@ class MachinePort {
 
   // Sounds a standard signal (16 stop, 32 question, 64 information); silent where there is none.
   virtual void MessageBeep(std::uint32_t type) = 0;
-  // The system's last error code, 0 if none, and the system's text for a code (untrimmed).
-  virtual std::uint32_t GetLastError() = 0;
+  // What an error's SystemCode says (untrimmed), in French on every system; empty where there is no
+  // such text.
   virtual Text FormatMessage(std::uint32_t code) = 0;
   // A number from 0 up to, not including, 1, from a generator seeded with the clock.
   virtual double Random() = 0;

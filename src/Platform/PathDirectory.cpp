@@ -93,7 +93,7 @@ class PathDirectory : public HeldDirectory {
     return platform_.GetFileProperties(NameOf(entry), status, record);
   }
   int ExtractIconEx(const ListedEntry& entry, int index) override {
-    return platform_.ExtractIconEx(NameOf(entry), index);
+    return platform_.ExtractIconEx(NameOf(entry), index, IconOwner::kDisc);
   }
 
  private:
@@ -116,13 +116,10 @@ class PathDirectory : public HeldDirectory {
   std::shared_ptr<const DirectoryEntries> entries_;
 };
 
-// After a search that found nothing: a root has no entries of its own, so an empty one finds none,
-// and both systems have the same code for that.
+// After a search that found nothing: a root has no entries of its own, so an empty one finds none.
 bool IsEmptyRoot(Platform& platform, const Text& path) {
-  constexpr std::uint32_t kNothingFound = 2;
-  const bool nothing = platform.GetLastError() == kNothingFound;
   FileStatus status;
-  return nothing && path.size() == 3 && path[1] == u':' && platform.GetFileStatus(path, status);
+  return path.size() == 3 && path[1] == u':' && platform.GetFileStatus(path, status);
 }
 
 }  // namespace

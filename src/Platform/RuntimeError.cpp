@@ -10,6 +10,12 @@ RuntimeError::RuntimeError(ErrorNumber number, Text source)
 RuntimeError::RuntimeError(ErrorNumber number, Text source, Text description)
     : number_(number), source_(std::move(source)), description_(std::move(description)) {}
 
+RuntimeError RuntimeError::OfSystem(ErrorNumber number, std::uint32_t code) {
+  RuntimeError error(number);
+  error.system_code_ = code;
+  return error;
+}
+
 Text ErrorDescription(ErrorNumber number) {
   switch (number) {
     case ErrorNumber::kInvalidCall:
@@ -59,6 +65,7 @@ Text ErrorDescription(ErrorNumber number) {
 void PendingError::Set(const RuntimeError& error) {
   number = error.Number();
   line = 0;
+  system_code = error.SystemCode();
   source = error.Source();
   description = error.Description();
 }

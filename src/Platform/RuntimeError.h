@@ -1,6 +1,7 @@
 // The one exception of the program, and the record of the last one that a handler caught.
 #pragma once
 
+#include <cstdint>
 #include <exception>
 
 #include "Platform/Text.h"
@@ -37,17 +38,23 @@ class RuntimeError : public std::exception {
  public:
   explicit RuntimeError(ErrorNumber number, Text source = u"Trovex");
   RuntimeError(ErrorNumber number, Text source, Text description);
+  // One that an error of the system has caused, with that one's code.
+  static RuntimeError OfSystem(ErrorNumber number, std::uint32_t code);
 
   int Number() const { return static_cast<int>(number_); }
   ErrorNumber Kind() const { return number_; }
   const Text& Source() const { return source_; }
   const Text& Description() const { return description_; }
+  // The system's own code for this error, numbered as Windows does; 0 where the system has no part
+  // in it. Platform::FormatMessage tells what it means.
+  std::uint32_t SystemCode() const { return system_code_; }
   const char* what() const noexcept override { return "run-time error"; }
 
  private:
   ErrorNumber number_;
   Text source_;
   Text description_;
+  std::uint32_t system_code_ = 0;
 };
 
 // The description that belongs to a number, in the language of the interface.
@@ -57,6 +64,7 @@ Text ErrorDescription(ErrorNumber number);
 struct PendingError {
   int number = 0;
   int line = 0;  // 0 where no line number is known
+  std::uint32_t system_code = 0;
   Text source;
   Text description;
 

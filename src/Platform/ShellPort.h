@@ -7,6 +7,10 @@
 
 namespace trovex {
 
+// Whose file an icon is wanted of: the system's own or one that the registry names, or one of the
+// disc in hand, which may be damaged.
+enum class IconOwner { kSystem, kDisc };
+
 class ShellPort {
  public:
   virtual ~ShellPort() = default;
@@ -26,9 +30,11 @@ class ShellPort {
   // answers for it.
   virtual bool HasHelpEngine() = 0;
 
-  // Number of large icons that extracting one at `index` yields, 0 or 1. Posix looks into icon
-  // files and into NE and PE executables, where any icon group will do.
-  virtual int ExtractIconEx(const Text& file, int index) = 0;
+  // Number of large icons that extracting one at `index` yields, 0 or 1. Of a disc's file there is
+  // none unless its first group of icons, or the icon file, is sound from the headers to the last
+  // image; the system is shown no other. Posix looks no further than that in any file, whatever the
+  // index; SHELL32.DLL of the system directory has icons there, too.
+  virtual int ExtractIconEx(const Text& file, int index, IconOwner owner) = 0;
 };
 
 }  // namespace trovex

@@ -5,12 +5,10 @@
 #include <cstddef>
 #include <string_view>
 
+#include "Lib/FileNumbers.h"
 #include "Lib/Folder.h"
 
 namespace trovex {
-
-// The longest text that the program's 16-bit positions reach; no line is taken further.
-inline constexpr std::size_t kLongestLine = 32767;
 
 // The first two lines of a text file. It is opened for the first question, stays open and is read
 // as far as what was asked for, so that a long line that is wanted in part costs no more.

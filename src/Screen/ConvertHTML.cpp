@@ -39,14 +39,18 @@ bool AskDrive(HtmlExportWish& wish) {
 
 }  // namespace
 
-void ConvertHTML_Click(MainForm& form) {
+ExportOutcome ConvertHTML_Click(MainForm& form) {
   BusyOn();
   HtmlExportWish wish;
   wish.sFichier = sDialogueFichier(R(StringId::kFichierHtmlACreer), R(StringId::kFiltreHtml),
                                    u".htm", u"Fichier.htm");
-  if (wish.sFichier.empty()) return BusyOff();
+  if (wish.sFichier.empty()) {
+    BusyOff();
+    return ExportOutcome::kCancelled;
+  }
   // Going back from a question leaves the busy text in the status line.
-  if (AskTables(wish) && AskDrive(wish)) ExportHtml(form, wish);
+  if (!AskTables(wish) || !AskDrive(wish)) return ExportOutcome::kCancelled;
+  return ExportHtml(form, wish);
 }
 
 }  // namespace trovex

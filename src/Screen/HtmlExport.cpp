@@ -42,21 +42,25 @@ class HtmlExport {
         sPageTable_(PageName(u"tableaux")),
         sPageDonnees_(PageName(u"donnees")) {}
 
-  void Run() {
+  ExportOutcome Run() {
     BusyOn();
+    const std::size_t iAbandonnes = iTextesAbandonnes();
     const int iOngletDepart = form_.ZoneDesTableaux.Tab();
     form_.Refresh();
     hTable_ = iOuvreEcriture(wish_.sFichier);
-    if (hTable_ == kNotOpened) return;
+    if (hTable_ == kNotOpened) return ExportOutcome::kFailed;
     try {
       WriteFrameset();
-      if (!OpenPages()) return;
+      if (!OpenPages()) return ExportOutcome::kFailed;
       WritePages();
       if (form_.ZoneDesTableaux.Tab() != iOngletDepart) form_.ZoneDesTableaux.SetTab(iOngletDepart);
+      const bool bEntier = iTextesAbandonnes() == iAbandonnes;
       Offer();
       BusyOff();
+      return bEntier ? ExportOutcome::kWritten : ExportOutcome::kFailed;
     } catch (const RuntimeError& error) {
       Abandon(error);
+      return ExportOutcome::kFailed;
     }
   }
 
@@ -203,8 +207,8 @@ class HtmlExport {
 
 }  // namespace
 
-void ExportHtml(MainForm& form, const HtmlExportWish& wish) {
-  HtmlExport(form, wish).Run();
+ExportOutcome ExportHtml(MainForm& form, const HtmlExportWish& wish) {
+  return HtmlExport(form, wish).Run();
 }
 
 }  // namespace trovex

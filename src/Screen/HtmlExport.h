@@ -1,6 +1,7 @@
 // The export of the tables to a frameset file, a page of tables and a page of data.
 #pragma once
 
+#include "Lib/ExportOutcome.h"
 #include "Screen/MainForm.h"
 
 namespace trovex {
@@ -12,7 +13,8 @@ struct HtmlExportWish {
   bool bGarderLecteur = true;  // the location keeps its drive letter
 };
 
-// Writes the three files. Errors end in the error box; what was written so far stays.
-void ExportHtml(MainForm& form, const HtmlExportWish& wish);
+// Writes the three files. Errors end in the error box; what was written so far stays. A text too
+// long to be written counts as a failure, though the rest stands.
+ExportOutcome ExportHtml(MainForm& form, const HtmlExportWish& wish);
 
 }  // namespace trovex

@@ -13,8 +13,8 @@ constexpr StringId kTitres[kTableCount] = {
 
 }  // namespace
 
-void Exporter_Click(MainForm& form) {
-  GridExportAscii(form.GridLogiciel(form.ZoneDesTableaux.Tab()));
+ExportOutcome Exporter_Click(MainForm& form) {
+  return GridExportAscii(form.GridLogiciel(form.ZoneDesTableaux.Tab()));
 }
 
 void Imprimer_Click(MainForm& form) {

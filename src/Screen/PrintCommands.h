@@ -2,11 +2,12 @@
 // through a preview.
 #pragma once
 
+#include "Lib/ExportOutcome.h"
 #include "Screen/MainForm.h"
 
 namespace trovex {
 
-void Exporter_Click(MainForm& form);
+ExportOutcome Exporter_Click(MainForm& form);
 void Imprimer_Click(MainForm& form);
 void PrintTexte_Click(MainForm& form);
 

@@ -21,9 +21,11 @@ int iEntier(TextView sTexte) {
 }
 
 // The icon at `index` of a file; an empty picture where there is none.
-Picture IconOf(const FileInHand& oFichier, int index) {
-  if (oFichier.ExtractIconEx(index) == 0) return {};
-  return {Picture::Source::kIconOf, oFichier.Name(), index};
+// The icon at `index` of a file that the system or its registry names; an empty picture where there
+// is none.
+Picture IconOf(const Text& sFichier, int index) {
+  if (CurrentPlatform().ExtractIconEx(sFichier, index, IconOwner::kSystem) == 0) return {};
+  return {Picture::Source::kIconOf, sFichier, index};
 }
 
 Picture SystemIcon() {
@@ -40,8 +42,10 @@ Text sLireIcone(Grid& grid) {
 // The file's own icon where its type says so, else the system's; a program without one is taken
 // for an MS-DOS program.
 Picture OwnIcon(MainForm& form, const Text& sIcone) {
-  const auto own = [&] {
-    return IconOf(FileInHand(form.DossierEnMain(), Trim(form.TextInfo(5).GetText())), 0);
+  const auto own = [&]() -> Picture {
+    const FileInHand oFichier(form.DossierEnMain(), Trim(form.TextInfo(5).GetText()));
+    if (oFichier.ExtractIconEx(0) == 0) return {};
+    return {Picture::Source::kIconOf, oFichier.Name(), 0};
   };
   Picture icon = sIcone.empty() ? SystemIcon() : own();
   if (icon.source != Picture::Source::kNone) return icon;

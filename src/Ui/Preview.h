@@ -21,6 +21,7 @@ struct PreviewTexts {
 
 struct Preview {
   const Pages& pages;
+  bool whole;        // false where a document has more than its pages can hold
   Text application;  // whose caption the window bears
   const PreviewTexts& texts;
   // Lets the user choose a file and saves the document there as PDF.

@@ -251,6 +251,17 @@ TEST_F(CatalogueTest, OutputThatCannotBeWrittenEndsWithARunTimeError) {
   }
 }
 
+// Standard output whose failures are exceptions of another kind.
+TEST_F(CatalogueTest, AnyOtherExceptionEndsWithOneLineAndTheSameStatus) {
+  ClosedBuffer closed;
+  std::ostream out(&closed);
+  out.exceptions(std::ios::badbit);
+  std::ostringstream err;
+  EXPECT_EQ(cli::Run({Argument(), "--json"}, out, err, false), cli::kRuntimeError);
+  EXPECT_THAT(err.str(), StartsWith("trovex-cli: erreur interne : "));
+  EXPECT_EQ(err.str().find('\n'), err.str().size() - 1);
+}
+
 // Calls back each time the program has shown its progress.
 class WatchedBuffer : public std::stringbuf {
  public:

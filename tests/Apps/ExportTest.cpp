@@ -10,6 +10,7 @@ namespace trovex::test {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 std::string BytesOf(const std::filesystem::path& name) {
@@ -84,8 +85,20 @@ TEST_F(SmallExportTest, AFileThatCannotBeWrittenGivesStatus1) {
   EXPECT_EQ(
       Run({"--quiet", "--csv", Argument("ABSENT") + "/A.CSV", "--txt", Argument("SORTIE/A.TXT")}),
       cli::kExportFailed);
-  EXPECT_THAT(err_, HasSubstr("Erreur d'écriture sur le fichier"));
+  EXPECT_THAT(err_, StartsWith("trovex-cli: Erreur d'écriture sur le fichier : " +
+                               Argument("ABSENT") + "/A.CSV "));
+  EXPECT_THAT(err_, HasSubstr("Un dossier du chemin n'existe pas."));
   EXPECT_TRUE(Exists("SORTIE/A.TXT")) << "the other export is written all the same";
+}
+
+TEST_F(SmallExportTest, EveryFileIsNamedAsItWasGiven) {
+  const std::string absent = Argument("ABSENT");
+  EXPECT_EQ(
+      Run({"--quiet", "--html", absent + "/A", "--prn", absent + "/B", "--pdf", absent + "/C.x"}),
+      cli::kExportFailed);
+  for (const char* name : {"/A.htm", "/B.prn", "/C.x"}) EXPECT_THAT(err_, HasSubstr(absent + name));
+  // The program's own name of the directory.
+  EXPECT_THAT(err_, Not(HasSubstr("Z:\\")));
 }
 
 TEST_F(SmallExportTest, PdfHoldsThePagesOfTheTable) {

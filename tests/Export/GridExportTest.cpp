@@ -53,7 +53,7 @@ class GridExportTest : public LogicTest {
   }
   int FilesOnTheDisc() const {
     FileListBox files;
-    files.Show(u"D:\\", u"*");
+    files.SetPath(u"D:\\");
     return files.ListCount();
   }
   bool Exists(std::string_view path) const { return std::filesystem::exists(disc.HostPath(path)); }
@@ -73,7 +73,7 @@ class GridExportTest : public LogicTest {
   std::string Exported(int format, const Text& title) {
     Choose(format);
     view.AnswerFile(u"D:\\SORTIE");
-    GridExportAscii(grid_);
+    EXPECT_EQ(GridExportAscii(grid_), ExportOutcome::kWritten);
     EXPECT_THAT(view.FileDialogs(), ElementsAre(title));
     EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
     return Contents("SORTIE");
@@ -178,7 +178,7 @@ TEST_F(GridExportTest, EachFormatProposesItsNameFilterAndExtension) {
 TEST_F(GridExportTest, ACancelledFormatChoiceLeavesNoFileAndNoHourglass) {
   view.AnswerForm([](Form& form) { static_cast<Lib_SelectDlg&>(form).Annuler().Press(); });
   BusyOn();
-  GridExportAscii(grid_);
+  EXPECT_EQ(GridExportAscii(grid_), ExportOutcome::kCancelled);
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
   EXPECT_THAT(view.FileDialogs(), IsEmpty());
   EXPECT_EQ(FilesOnTheDisc(), 0);
@@ -187,7 +187,7 @@ TEST_F(GridExportTest, ACancelledFormatChoiceLeavesNoFileAndNoHourglass) {
 TEST_F(GridExportTest, ACancelledFileDialogLeavesNoFileAndNoHourglass) {
   Choose(0);
   view.AnswerFile({});
-  GridExportAscii(grid_);
+  EXPECT_EQ(GridExportAscii(grid_), ExportOutcome::kCancelled);
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
   EXPECT_EQ(FilesOnTheDisc(), 0);
 }
@@ -195,7 +195,7 @@ TEST_F(GridExportTest, ACancelledFileDialogLeavesNoFileAndNoHourglass) {
 TEST_F(GridExportTest, AFileNameOfBlanksIsACancelledOne) {
   Choose(0);
   view.AnswerFile(u"   ");
-  GridExportAscii(grid_);
+  EXPECT_EQ(GridExportAscii(grid_), ExportOutcome::kCancelled);
   EXPECT_EQ(FilesOnTheDisc(), 0);
 }
 
@@ -225,7 +225,7 @@ TEST_F(GridExportTest, AFileThatCannotBeOpenedIsReportedAndNothingWritten) {
   Choose(0);
   view.AnswerFile(u"D:\\ABSENT\\A.CSV");
   view.Answer(BoxAnswer::kOk);
-  GridExportAscii(grid_);
+  EXPECT_EQ(GridExportAscii(grid_), ExportOutcome::kFailed);
   EXPECT_TRUE(LastBox().starts_with(u"Erreur d'écriture sur le fichier : D:\\ABSENT\\A.CSV"));
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
   EXPECT_FALSE(Exists("ABSENT"));
@@ -237,7 +237,7 @@ TEST_F(GridExportTest, AFullDiskIsReportedAndTheFileClosed) {
   Choose(0);
   view.AnswerFile(u"D:\\A.CSV");
   view.Answer(BoxAnswer::kOk);
-  GridExportAscii(grid_);
+  EXPECT_EQ(GridExportAscii(grid_), ExportOutcome::kFailed);
   EXPECT_TRUE(LastBox().starts_with(u"GridExport()"));
   EXPECT_EQ(BoxCount(), 1u);
   EXPECT_FALSE(IsOpenForOutput(u"D:\\A.CSV"));

@@ -471,6 +471,21 @@ TEST_F(LoadTest, WithoutLimitEveryLineIsLoaded) {
   EXPECT_EQ(box.GetText(), expected);
 }
 
+TEST_F(LoadTest, ALineIsShownToItsMillionthCharacter) {
+  disc.File("A.TXT", std::string(1048577, 'x') + "\r\ndeux\r\n");
+  ChargeTexte(u"D:\\A.TXT", box, true);
+  EXPECT_EQ(box.GetText(), Text(1048576, u'x') + u"\r\ndeux");
+}
+
+TEST_F(LoadTest, ATextIsShownToItsFourMillionthCharacter) {
+  std::string contents;
+  for (int line = 0; line < 6; ++line) contents += std::string(1000000, 'x') + "\r\n";
+  disc.File("A.TXT", contents);
+  ChargeTexte(u"D:\\A.TXT", box, true);
+  EXPECT_EQ(box.GetText().size(), 4194304u);
+  EXPECT_EQ(FreeFile(), 1);
+}
+
 TEST_F(LoadTest, AFileThatCannotBeOpenedIsReported) {
   ExpectBox();
   ChargeTexte(u"D:\\RIEN.TXT", box);

@@ -102,6 +102,12 @@ TEST_F(IniTest, ABooleanIsANumber) {
   EXPECT_FALSE(bLitIni(u"a", u"faux", true, file));
 }
 
+TEST_F(IniTest, ABooleanMayBeAWordInEitherLanguage) {
+  const Text file = Ini("[a]\r\n1=True\r\n2=VRAI\r\n3= vrai \r\n4=False\r\n5=faux\r\n6=rien\r\n");
+  for (const char16_t* key : {u"1", u"2", u"3"}) EXPECT_TRUE(bLitIni(u"a", key, false, file));
+  for (const char16_t* key : {u"4", u"5", u"6"}) EXPECT_FALSE(bLitIni(u"a", key, true, file));
+}
+
 TEST_F(IniTest, AMissingBooleanIsTheDefault) {
   const Text file = Ini("[a]\r\n");
   EXPECT_TRUE(bLitIni(u"a", u"k", true, file));

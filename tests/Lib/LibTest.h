@@ -30,7 +30,7 @@ class BentPlatform : public ForwardingPlatform {
   std::map<Text, Text> environment;
   Text windows_directory = u"D:\\Windows", system_directory = u"D:\\Windows\\System";
   std::deque<double> random;  // each number is drawn once
-  std::uint32_t last_error = 0;
+  std::uint32_t error_code = 0;
   Text error_text;
 
   // What was asked.
@@ -94,9 +94,8 @@ class BentPlatform : public ForwardingPlatform {
     return found == environment.end() ? Text() : found->second;
   }
   void MessageBeep(std::uint32_t type) override { beeps.push_back(type); }
-  std::uint32_t GetLastError() override { return last_error; }
   Text FormatMessage(std::uint32_t code) override {
-    return code == last_error ? error_text : Text();
+    return code == error_code ? error_text : Text();
   }
   double Random() override {
     if (random.empty()) {

@@ -12,6 +12,11 @@ class MessageTest : public LibTest {
     Err().description = std::move(description);
     Err().line = line;
   }
+  // The pending error is the system's.
+  void PendingOfSystem(std::uint32_t code, Text text) {
+    Err().system_code = platform.error_code = code;
+    platform.error_text = std::move(text);
+  }
   // The error box that comes up now.
   Text ErrorBox(TextView text) {
     ExpectBox();
@@ -29,8 +34,7 @@ TEST_F(MessageTest, WithoutPendingErrorTheTextStandsAlone) {
 }
 
 TEST_F(MessageTest, WithoutPendingErrorTheSystemsIsNotShown) {
-  platform.last_error = 5;
-  platform.error_text = u"Access denied.";
+  PendingOfSystem(5, u"Access denied.");
   EXPECT_EQ(ErrorBox(u"Erreur"), u"Erreur");
 }
 
@@ -56,8 +60,7 @@ TEST_F(MessageTest, AnEmptyDescriptionTakesNoLine) {
 
 TEST_F(MessageTest, TheSystemsErrorComesLast) {
   Pending(70, u"Trovex", u"Permission");
-  platform.last_error = 5;
-  platform.error_text = u" Access denied. ";
+  PendingOfSystem(5, u" Access denied. ");
   EXPECT_EQ(ErrorBox(u"E"), u"E\r\n\r\nError #70 by Trovex\r\nPermission\r\n\r\nAccess denied.");
 }
 
@@ -78,11 +81,21 @@ TEST_F(MessageTest, TheErrorBoxClearsThePendingError) {
   EXPECT_EQ(ErrorBox(u"E"), u"E");
 }
 
+TEST_F(MessageTest, AnErrorThatIsNotTheSystemsShowsNoTextOfAnEarlierOne) {
+  PendingOfSystem(5, u"Access denied.");
+  Err().Set(RuntimeError::OfSystem(ErrorNumber::kPermissionDenied, 5));
+  EXPECT_EQ(sMessageSysteme(), u"Access denied.");
+  Err().Set(RuntimeError(ErrorNumber::kOverflow));
+  EXPECT_EQ(ErrorBox(u"E"), u"E" + Details(ErrorNumber::kOverflow));
+  Err().Set(RuntimeError::OfSystem(ErrorNumber::kPermissionDenied, 5));
+  ErrorBox(u"E");
+  EXPECT_EQ(Err().system_code, 0u);
+}
+
 // --- sMessageSysteme ----------------------------------------------------------------------------
 
 TEST_F(MessageTest, TheSystemsTextIsTrimmed) {
-  platform.last_error = 2;
-  platform.error_text = u"  File not found. ";
+  PendingOfSystem(2, u"  File not found. ");
   EXPECT_EQ(sMessageSysteme(), u"File not found.");
 }
 
@@ -92,15 +105,14 @@ TEST_F(MessageTest, WithoutSystemErrorThereIsNoText) {
 }
 
 TEST_F(MessageTest, ACodeWithoutTextHasNone) {
-  platform.last_error = 99999;
+  PendingOfSystem(99999, u"");
   EXPECT_EQ(sMessageSysteme(), u"");
-  platform.error_text = u"   ";
+  PendingOfSystem(99999, u"   ");
   EXPECT_EQ(sMessageSysteme(), u"");
 }
 
 TEST_F(MessageTest, ASystemTextThatDoesNotFitTheBufferIsNone) {
-  platform.last_error = 2;
-  platform.error_text = Text(499, u'x');
+  PendingOfSystem(2, Text(499, u'x'));
   EXPECT_EQ(sMessageSysteme(), Text(499, u'x'));
   platform.error_text = Text(500, u'x');
   EXPECT_EQ(sMessageSysteme(), u"");

@@ -9,48 +9,84 @@ using records::FindProfileValue;
 using records::WithProfileValue;
 
 TEST(ProfileFile, FindsWithoutRegardToCase) {
-  EXPECT_EQ(FindProfileValue("[Setup]\r\nTitle=Jeu\r\n", u"SETUP", u"title"), "Jeu");
-  EXPECT_EQ(FindProfileValue("[\xC9T\xC9]\r\nCl\xE9=1\r\n", u"été", u"CLÉ"), "1");
+  EXPECT_EQ(FindProfileValue("[Setup]\r\nTitle=Jeu\r\n", u"SETUP", u"title"), u"Jeu");
+  EXPECT_EQ(FindProfileValue("[\xC9T\xC9]\r\nCl\xE9=1\r\n", u"été", u"CLÉ"), u"1");
 }
 
 TEST(ProfileFile, DropsBlanksTabsAndOnePairOfQuotes) {
-  EXPECT_EQ(FindProfileValue(" [a] \n \tk \t=\t v w \t\n", u"a", u" k "), "v w");
-  EXPECT_EQ(FindProfileValue("[a]\nk=\" v \"", u"a", u"k"), " v ");
-  EXPECT_EQ(FindProfileValue("[a]\nk='v'", u"a", u"k"), "v");
-  EXPECT_EQ(FindProfileValue("[a]\nk=\"\"v\"\"", u"a", u"k"), "\"v\"");
-  EXPECT_EQ(FindProfileValue("[a]\nk=\"v'", u"a", u"k"), "\"v'");
-  EXPECT_EQ(FindProfileValue("[a]\nk=\"", u"a", u"k"), "\"");
-  EXPECT_EQ(FindProfileValue("[a]\nk=\"\"", u"a", u"k"), "");
+  EXPECT_EQ(FindProfileValue(" [a] \n \tk \t=\t v w \t\n", u"a", u" k "), u"v w");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\" v \"", u"a", u"k"), u" v ");
+  EXPECT_EQ(FindProfileValue("[a]\nk='v'", u"a", u"k"), u"v");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"\"v\"\"", u"a", u"k"), u"\"v\"");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"v'", u"a", u"k"), u"\"v'");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"", u"a", u"k"), u"\"");
+  EXPECT_EQ(FindProfileValue("[a]\nk=\"\"", u"a", u"k"), u"");
 }
 
 TEST(ProfileFile, TheFirstSectionAndTheFirstKeyCount) {
-  EXPECT_EQ(FindProfileValue("[a]\nk=1\nk=2\n[a]\nk=3", u"a", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[a]\nk=1\nk=2\n[a]\nk=3", u"a", u"k"), u"1");
   EXPECT_EQ(FindProfileValue("[a]\n[b]\nk=2\n[a]\nk=3", u"a", u"k"), std::nullopt);
 }
 
 TEST(ProfileFile, CommentsAndStrayLinesHoldNoKeys) {
-  EXPECT_EQ(FindProfileValue("[a]\n;k=1\n  ; k=2\nk\nk=3", u"a", u"k"), "3");
+  EXPECT_EQ(FindProfileValue("[a]\n;k=1\n  ; k=2\nk\nk=3", u"a", u"k"), u"3");
   EXPECT_EQ(FindProfileValue("k=1\n[a]\n", u"", u"k"), std::nullopt);
   EXPECT_EQ(FindProfileValue("k=1\n[a]\n", u"a", u"k"), std::nullopt);
 }
 
 TEST(ProfileFile, ASectionsNameEndsAtItsBracketOrWithTheLine) {
-  EXPECT_EQ(FindProfileValue("[a]b]\nk=1", u"a", u"k"), "1");
-  EXPECT_EQ(FindProfileValue("[a \nk=1", u"a", u"k"), "1");
-  EXPECT_EQ(FindProfileValue("[]\nk=1", u"", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[a]b]\nk=1", u"a", u"k"), u"1");
+  EXPECT_EQ(FindProfileValue("[a \nk=1", u"a", u"k"), u"1");
+  EXPECT_EQ(FindProfileValue("[]\nk=1", u"", u"k"), u"1");
   EXPECT_EQ(FindProfileValue("[", u"", u"k"), std::nullopt);
 }
 
 TEST(ProfileFile, TheValueIsAllBehindTheFirstEqualsSign) {
-  EXPECT_EQ(FindProfileValue("[a]\nk=x=y;z", u"a", u"k"), "x=y;z");
-  EXPECT_EQ(FindProfileValue("[a]\nk=", u"a", u"k"), "");
-  EXPECT_EQ(FindProfileValue("[a]\n=v", u"a", u""), "v");
+  EXPECT_EQ(FindProfileValue("[a]\nk=x=y;z", u"a", u"k"), u"x=y;z");
+  EXPECT_EQ(FindProfileValue("[a]\nk=", u"a", u"k"), u"");
+  EXPECT_EQ(FindProfileValue("[a]\n=v", u"a", u""), u"v");
 }
 
 TEST(ProfileFile, LinesEndInThreeWays) {
-  EXPECT_EQ(FindProfileValue("[a]\rk=1\rl=2", u"a", u"l"), "2");
-  EXPECT_EQ(FindProfileValue("[a]\nk=1\nl=2", u"a", u"k"), "1");
-  EXPECT_EQ(FindProfileValue("[a]\r\n\r\nk=1\r\n", u"a", u"k"), "1");
+  EXPECT_EQ(FindProfileValue("[a]\rk=1\rl=2", u"a", u"l"), u"2");
+  EXPECT_EQ(FindProfileValue("[a]\nk=1\nl=2", u"a", u"k"), u"1");
+  EXPECT_EQ(FindProfileValue("[a]\r\n\r\nk=1\r\n", u"a", u"k"), u"1");
+}
+
+std::string Utf16(TextView text) {
+  std::string bytes = "\xFF\xFE";
+  for (const char16_t unit : text) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+  }
+  return bytes;
+}
+
+TEST(ProfileFile, AFileInUtf16IsReadByItsMark) {
+  const std::string file = Utf16(u"[Réglages]\r\nClé=Жук 日本\r\nl='ż'\r\n");
+  EXPECT_EQ(FindProfileValue(file, u"RÉGLAGES", u"clé"), u"Жук 日本");
+  EXPECT_EQ(FindProfileValue(file, u"Réglages", u"l"), u"ż");
+  EXPECT_EQ(FindProfileValue(file.substr(2), u"Réglages", u"l"), std::nullopt);
+  EXPECT_EQ(FindProfileValue(Utf16(u""), u"a", u"k"), std::nullopt);
+  for (std::size_t size = 0; size < file.size(); ++size) {
+    FindProfileValue(file.substr(0, size), u"Réglages", u"Clé");
+  }
+}
+
+TEST(ProfileFile, AFileInUtf16StaysOne) {
+  EXPECT_EQ(WithProfileValue(Utf16(u"[a]\r\nk=1\r\n"), u"a", u"k", u"Ж"), Utf16(u"[a]\r\nk=Ж\r\n"));
+  EXPECT_EQ(WithProfileValue(Utf16(u""), u"a", u"k", u"1"), Utf16(u"[a]\r\nk=1\r\n"));
+}
+
+TEST(ProfileFile, BlanksInBracketsDoNotCount) {
+  EXPECT_EQ(FindProfileValue("[ \tSetup ]\nk=1", u"Setup", u"k"), u"1");
+  EXPECT_EQ(WithProfileValue("[ a ]\nk=1\n", u"a", u"k", u"2"), "[ a ]\nk=2\n");
+}
+
+TEST(ProfileFile, TheEndMarkOfMsDosIsABlank) {
+  EXPECT_EQ(FindProfileValue("[a]\r\nk=1\x1A", u"a", u"k"), u"1");
+  EXPECT_EQ(FindProfileValue("[a]\r\nk=1\r\n\x1A\r\nl=2", u"a", u"l"), u"2");
+  EXPECT_EQ(WithProfileValue("[a]\r\nk=1\r\n\x1A", u"a", u"l", u"2"), "[a]\r\nk=1\r\nl=2\r\n\x1A");
 }
 
 TEST(ProfileFile, NothingComesOfNothing) {
@@ -83,7 +119,7 @@ TEST(ProfileFile, WhatWasWrittenIsReadBack) {
   const std::string file = ";x\r\n[a]\rk=1\n[b\r\n\r\n q = \"w\" \r\n[a]\nz";
   for (std::size_t size = 0; size <= file.size(); ++size) {
     const std::string written = WithProfileValue(file.substr(0, size), u"b", u"q", u"neuf");
-    EXPECT_EQ(FindProfileValue(written, u"b", u"q"), "neuf") << size;
+    EXPECT_EQ(FindProfileValue(written, u"b", u"q"), u"neuf") << size;
   }
 }
 

@@ -2,37 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <random>
 
+#include "support/DamagedPrograms.h"
 #include "support/ExecutableBuilder.h"
+#include "support/MemorySource.h"
 
 namespace trovex::test {
 namespace {
 
 using records::ReadVersionRecord;
-
-// A file in memory that counts how often and how much it is read.
-class MemorySource : public records::ByteSource {
- public:
-  explicit MemorySource(std::string_view bytes) : bytes_(bytes) {}
-
-  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
-    ++reads;
-    if (offset >= bytes_.size()) return 0;
-    size = std::min(size, bytes_.size() - static_cast<std::size_t>(offset));
-    std::memcpy(buffer, bytes_.data() + offset, size);
-    total += size;
-    return size;
-  }
-
-  int reads = 0;
-  std::size_t total = 0;
-
- private:
-  std::string_view bytes_;
-};
 
 std::string VersionOf(std::string_view file) {
   MemorySource source(file);
@@ -93,6 +73,15 @@ TEST(VersionResource, EveryOverwrittenNumberGivesABoundedAnswer) {
         ASSERT_LE(source.reads, 1100) << sample.name << ' ' << at;
       }
     }
+  }
+}
+
+TEST(VersionResource, EveryDamagedProgramGivesABoundedAnswer) {
+  for (const DamagedProgram& program : DamagedPrograms()) {
+    MemorySource source(program.contents);
+    const std::string found = ReadVersionRecord(source);
+    ASSERT_TRUE(found.empty() || program.contents.find(found) != std::string::npos) << program.path;
+    ASSERT_LE(source.reads, 1100) << program.path;
   }
 }
 

@@ -349,6 +349,20 @@ TEST_F(AnalysisTest, TheFirstLineOfALisezmoiIsNotCut) {
   EXPECT_EQ(DescriptionOfJeu(), Signs(200, u'a'));
 }
 
+TEST_F(AnalysisTest, ALisezmoiOf40000CharactersStandsWhole) {
+  Lines("LISEZMOI.TXT", {Signs(40000, u'a')});
+  EXPECT_EQ(DescriptionOfJeu(), Signs(40000, u'a'));
+}
+
+// A tab behind position 32767 cannot be told; the text is given up, and the next line has its turn.
+TEST_F(AnalysisTest, ATabFarBehindInALisezmoiIsAnOverflow) {
+  Lines("LISEZMOI.TXT", {Signs(32767, u'a') + u"\tb", u"deux"});
+  view.Answer(BoxAnswer::kOk);
+  EXPECT_EQ(DescriptionOfJeu(), u"deux");
+  EXPECT_TRUE(LastBox().starts_with(u"Erreur de traitement sur :\r\nsChangeCaractere("));
+  EXPECT_NE(LastBox().find(u"Error #6 by LIB_STRING"), Text::npos);
+}
+
 TEST_F(AnalysisTest, TheFirstLineOfAReadmeAndAFileIdIsCutAt95) {
   Lines("README.TXT", {Signs(200, u'a')});
   EXPECT_EQ(DescriptionOfJeu(), Signs(95, u'a'));

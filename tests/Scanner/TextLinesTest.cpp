@@ -171,7 +171,17 @@ TEST_F(TextLinesTest, ALargeFileWithoutLineEndIsNotReadThrough) {
   EXPECT_TRUE(TextLines(u"D:\\README.TXT").sPremiereLigne(95).starts_with(u"Un jeu"));
   EXPECT_LE(platform_.bytes, 65536u);
   EXPECT_EQ(TextLines(u"D:\\README.TXT").sPremiereLigne().size(), kLongestLine);
-  EXPECT_LE(platform_.bytes, 2 * 65536u);
+  EXPECT_LE(platform_.bytes, 2 * 65536u + kLongestLine);
+}
+
+TEST_F(TextLinesTest, ALineOf40000CharactersIsWhole) {
+  const std::string longer(40000, 'a');
+  EXPECT_EQ(First(longer + "\r\n"), Text(40000, u'a'));
+  EXPECT_EQ(Second("un\r\n" + longer), Text(40000, u'a'));
+}
+
+TEST_F(TextLinesTest, ALineEndsAt1048576Characters) {
+  EXPECT_EQ(First(std::string(1048577, 'a') + "\r\n"), Text(1048576, u'a'));
 }
 
 TEST_F(TextLinesTest, OnlyTheFirstTwoLinesOfALargeFileAreRead) {

@@ -106,7 +106,7 @@ TEST_F(FileViewerTest, OneVeryLongLineIsReadInPieces) {
   constexpr std::size_t kLength = 16 << 20;
   disc.File("J/A.TXT", std::string(kLength, 'x') + "\r\nfin");
   View(u"A.txt");
-  EXPECT_EQ(Info(0).size(), kLength + 5);
+  EXPECT_EQ(Info(0).size(), (1u << 20) + 5);
   EXPECT_TRUE(Info(0).ends_with(u"x\r\nfin"));
   EXPECT_LT(machine.largest_read, std::size_t{2} << 20);
 }

@@ -1,3 +1,4 @@
+#include "Screen/ConvertHTML.h"
 #include "Screen/HtmlExportTest.h"
 
 namespace trovex::test {
@@ -52,7 +53,7 @@ TEST_F(HtmlQuestionsTest, TheTableIsChosenAmongThree) {
 
 TEST_F(HtmlQuestionsTest, WithoutAFileNameNothingIsAskedAndNothingIsBusy) {
   view.AnswerFile(u"");
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kCancelled);
   EXPECT_EQ(Help(), u"");
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
   ExpectNoFile();

@@ -1,3 +1,4 @@
+#include "Screen/ConvertHTML.h"
 #include "Screen/HtmlExportTest.h"
 
 namespace trovex::test {
@@ -12,7 +13,7 @@ using testing::StartsWith;
 TEST_F(HtmlQuestionsTest, AFramesetFileThatCannotBeCreatedEndsTheCommand) {
   Prepare({.name = u"D:\\AUCUN\\Fichier.htm"});
   view.Answer(BoxAnswer::kOk);
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
   EXPECT_EQ(BoxMessage(), u"Erreur d'écriture sur le fichier : D:\\AUCUN\\Fichier.htm");
   EXPECT_EQ(Help(), kBusy);
 }
@@ -24,7 +25,7 @@ TEST_F(HtmlQuestionsTest, APageThatCannotBeCreatedEndsTheCommandAndTheFramesetSt
     disk.refused = page;
     Prepare({});
     view.Answer(BoxAnswer::kOk);
-    Raise(form.ConvertHTML.on_click);
+    EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
     EXPECT_EQ(BoxMessage(), u"Erreur d'écriture sur le fichier : " + Text(page));
     EXPECT_THAT(Frameset(), EndsWith("</FRAMESET></HTML>\r\n"));
     EXPECT_EQ(Help(), kBusy);
@@ -35,7 +36,7 @@ TEST_F(HtmlQuestionsTest, ATablePageStaysOpenWhereTheDataPageCannotBeCreated) {
   disk.refused = u"D:\\SITE\\Fichier_donnees.htm";
   Prepare({});
   view.Answer(BoxAnswer::kOk);
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
   EXPECT_TRUE(IsOpenForOutput(u"D:\\SITE\\Fichier_tableaux.htm"));
   EXPECT_FALSE(IsOpenForOutput(u"D:\\SITE\\Fichier.htm"));
   EXPECT_EQ(FreeFile(), 2) << "its number is still taken";
@@ -45,7 +46,7 @@ TEST_F(HtmlQuestionsTest, ADiskFullFromTheStartIsReportedAndTheFilesAreClosed) {
   disk.room = 0;
   Prepare({});
   view.Answer(BoxAnswer::kOk);
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
   EXPECT_EQ(BoxMessage(), u"Erreur lors de la création du fichier HTML.");
   EXPECT_EQ(BoxError(), static_cast<int>(ErrorNumber::kDiskFull));
   EXPECT_EQ(FreeFile(), 1) << "every file number is free again";
@@ -62,7 +63,7 @@ TEST_F(HtmlExportTest, ADiskThatFillsUpInTheMiddleLeavesWhatWasWritten) {
   disk.room = 150000;
   Prepare({});
   view.Answer(BoxAnswer::kOk);
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
   EXPECT_EQ(BoxMessage(), u"Erreur lors de la création du fichier HTML.");
   EXPECT_EQ(BoxError(), static_cast<int>(ErrorNumber::kDiskFull));
   EXPECT_EQ(FreeFile(), 1);
@@ -89,7 +90,7 @@ TEST_F(HtmlExportTest, ATextTooLongForItsPositionsIsReported) {
   Scan();
   Prepare({});
   view.Answer(BoxAnswer::kOk);
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
   EXPECT_EQ(BoxMessage(), u"Erreur lors de la création du fichier HTML.");
   EXPECT_EQ(BoxError(), static_cast<int>(ErrorNumber::kOverflow));
   EXPECT_EQ(FreeFile(), 1);
@@ -111,7 +112,7 @@ TEST_F(HtmlQuestionsTest, SettingsThatCannotBeReadAreReportedByTheExport) {
   sFichierIni = u"D:\\SITE\\FAUX.INI";
   Prepare({});
   view.Answer(BoxAnswer::kOk);
-  Raise(form.ConvertHTML.on_click);
+  EXPECT_EQ(ConvertHTML_Click(form), ExportOutcome::kFailed);
   EXPECT_EQ(BoxMessage(), u"Erreur lors de la création du fichier HTML.");
   EXPECT_EQ(BoxError(), static_cast<int>(ErrorNumber::kNoSuchElement));
   EXPECT_THAT(Frameset(), EndsWith("</FRAMESET></HTML>\r\n"));

@@ -182,7 +182,7 @@ void FakeShell::StartProgram(const Text& command_line, int mode) {
   started.push_back({command_line, mode, GetCurrentDirectory()});
 }
 
-int FakeShell::ExtractIconEx(const Text& file, int index) {
+int FakeShell::ExtractIconEx(const Text& file, int index, IconOwner) {
   const auto known = icons.find(ToUpper(file));
   return known != icons.end() && index < known->second ? 1 : 0;
 }

@@ -95,14 +95,13 @@ class FakeShell : public ForwardingPlatform, private DirectoryWatch {
                    const Text& directory, int show) override;
   int FindExecutable(const Text& file, const Text& directory, Text& buffer) override;
   void StartProgram(const Text& command_line, int mode) override;
-  int ExtractIconEx(const Text& file, int index) override;
+  int ExtractIconEx(const Text& file, int index, IconOwner owner) override;
   long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override;
   long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
                     RegistryKey& key) override;
   long RegQueryValueEx(RegistryKey key, const Text& name, RegistryValue& value) override;
   void RegCloseKey(RegistryKey key) override;
   void MessageBeep(std::uint32_t) override {}
-  std::uint32_t GetLastError() override { return 0; }
   Text FormatMessage(std::uint32_t) override { return {}; }
   double Random() override;
 
@@ -110,7 +109,9 @@ class FakeShell : public ForwardingPlatform, private DirectoryWatch {
   using KeyName = std::pair<RegistryRoot, Text>;
 
   bool OnAsked(Asked what, const Text& name) override;
-  int IconsOf(const Text& name, int index) override { return ExtractIconEx(name, index); }
+  int IconsOf(const Text& name, int index) override {
+    return ExtractIconEx(name, index, IconOwner::kDisc);
+  }
   bool IsThere(const Text& name) const;
   bool IsProtected(const Text& name) const;
   RegistryKey Open(const KeyName& name);

@@ -1,11 +1,13 @@
 #include "Apps/trovex-cli/Cli.h"
 
-#include <algorithm>
 #include <cerrno>
+#include <exception>
+#include <new>
 #include <optional>
 #include <ostream>
 
 #include "Apps/trovex-cli/Catalogue.h"
+#include "Apps/trovex-cli/GivenNames.h"
 #include "Apps/trovex-cli/Incomplete.h"
 #include "Apps/trovex-cli/Options.h"
 #include "Lib/LIB_INI.h"
@@ -13,8 +15,9 @@
 #include "Paper/SavePdf.h"
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
-#include "Resources/Strings.h"
+#include "Screen/ConvertHTML.h"
 #include "Screen/LIB_GENERALE.h"
+#include "Screen/PrintCommands.h"
 #include "Ui/Directory.h"
 #include "Ui/FormsScope.h"
 #include "Ui/Headless/HeadlessView.h"
@@ -26,7 +29,8 @@ namespace {
 // Shows the directory in hand on the terminal's last line, and error boxes on lines of their own.
 class Progress {
  public:
-  Progress(HeadlessView& view, std::ostream& err, bool shown) : err_(err), shown_(shown) {
+  Progress(HeadlessView& view, const GivenNames& names, std::ostream& err, bool shown)
+      : names_(names), err_(err), shown_(shown) {
     view.on_repaint = [this](Control& control) { OnRepaint(control); };
     view.on_box = [this](const Box& box) { OnBox(box); };
   }
@@ -46,7 +50,7 @@ class Progress {
   void OnBox(const Box& box) {
     if (box.style != BoxStyle::kErreur) return;
     ClearLine();
-    err_ << "trovex-cli: " << Printable(OneLine(box.text)) << '\n';
+    err_ << "trovex-cli: " << Printable(OneLine(names_.PutInto(box.text))) << '\n';
   }
 
   static Text OneLine(Text text) {
@@ -61,6 +65,7 @@ class Progress {
     line_used_ = false;
   }
 
+  const GivenNames& names_;
   std::ostream& err_;
   bool shown_;
   bool line_used_ = false;
@@ -75,15 +80,18 @@ int Complain(std::ostream& err, const std::string& complaint) {
 class Session {
  public:
   // Relative names are taken from where the user stands: the program will go elsewhere.
-  Session(const Options& options, Host& host, HeadlessView& view, const Unread& unread)
+  Session(const Options& options, Host& host, HeadlessView& view, GivenNames& names,
+          const Unread& unread)
       : options_(options),
+        host_(host),
         view_(view),
+        names_(names),
         unread_(unread),
-        ini_(options.ini ? host.NameOf(*options.ini) : host.InstalledSettings()),
-        html_(TargetOf(host, options.html, ".htm")),
-        pdf_(TargetOf(host, options.pdf, ".pdf")),
-        ascii_{TargetOf(host, options.csv, ".csv"), TargetOf(host, options.prn, ".prn"),
-               TargetOf(host, options.txt, ".txt")} {}
+        ini_(options.ini ? NameOf(options.ini) : host.InstalledSettings()),
+        html_(TargetOf(options.html, ".htm")),
+        pdf_(TargetOf(options.pdf, ".pdf")),
+        ascii_{TargetOf(options.csv, ".csv"), TargetOf(options.prn, ".prn"),
+               TargetOf(options.txt, ".txt")} {}
 
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
@@ -104,13 +112,19 @@ class Session {
   }
 
  private:
+  Text NameOf(const std::optional<std::string>& argument, const char* extension = "") {
+    if (!argument) return {};
+    const Text name = host_.NameOf(*argument + extension);
+    names_.Add(name, *argument);
+    return name;
+  }
+
   // A name without a point gets the extension, as the dialog for saving gives it to a user's.
-  static Text TargetOf(Host& host, const std::optional<std::string>& argument,
-                       const char* extension) {
+  Text TargetOf(const std::optional<std::string>& argument, const char* extension) {
     if (!argument) return {};
     const std::string last = argument->substr(argument->find_last_of("/\\") + 1);
     const bool bare = !last.empty() && last.find('.') == std::string::npos;
-    return host.NameOf(bare ? *argument + extension : *argument);
+    return NameOf(argument, bare ? extension : "");
   }
 
   // Why standard output did not take everything, if so; the exports have not to suffer from it.
@@ -136,10 +150,9 @@ class Session {
     if (options_.table) AnswerChoice(*options_.table);
     view_.AnswerQuestion(options_.drop_drive ? BoxAnswer::kNo : BoxAnswer::kYes);  // keep it?
     view_.AnswerQuestion(BoxAnswer::kNo);                                          // look at it?
-    const std::size_t before = ExportErrors();
-    Raise(form.ConvertHTML.on_click);
+    const ExportOutcome outcome = ConvertHTML_Click(form);
     view_.ForgetAnswers();  // an export that failed asked no more
-    return ExportErrors() == before;
+    return outcome == ExportOutcome::kWritten;
   }
 
   // The exports of one table: that of --table, or the one that came up.
@@ -160,21 +173,19 @@ class Session {
   bool ExportAscii(MainForm& form, int format, const Text& file) {
     AnswerChoice(format);
     view_.AnswerFile(file);
-    const std::size_t before = ExportErrors();
-    Raise(form.Exporter.on_click);
-    return ExportErrors() == before;
+    return Exporter_Click(form) == ExportOutcome::kWritten;
   }
 
   // Presses the button and saves what the preview shows.
   bool PrintPdf(MainForm& form, const Text& file) {
     ShowTable(form);
-    const std::size_t before = ExportErrors();
+    bool saved = false;
     view_.AnswerPreview([&](const Preview& preview) {
       // Pages that stop in the middle of the table are no table.
-      if (ExportErrors() == before) SavePdf(preview.pages, file);
+      saved = preview.whole && SavePdf(preview.pages, file);
     });
-    Raise(form.Imprimer.on_click);
-    return ExportErrors() == before;
+    Imprimer_Click(form);
+    return saved;
   }
 
   // What a user does who takes one of the options.
@@ -186,22 +197,10 @@ class Session {
     });
   }
 
-  std::size_t ExportErrors() const {
-    // What rows say of missing disks is no failure of the export.
-    const auto is_error = [](const Box& box) {
-      return box.text.starts_with(ResString(StringId::kErreurHtml)) ||
-             box.text.starts_with(ResString(StringId::kErreurEcriture)) ||
-             box.text.starts_with(ResString(StringId::kErreurChangeCaractere)) ||  // a text lost
-             box.text.starts_with(ResString(StringId::kErreurPdf)) ||
-             box.text.starts_with(ResString(StringId::kDocumentTropLong)) ||
-             box.text.starts_with(u"GridExport()");
-    };
-    return static_cast<std::size_t>(
-        std::count_if(view_.Boxes().begin(), view_.Boxes().end(), is_error));
-  }
-
   const Options& options_;
+  Host& host_;
   HeadlessView& view_;
+  GivenNames& names_;
   const Unread& unread_;
   const Text ini_, html_, pdf_;
   const Text ascii_[3];  // in the order of the choices; empty where there is no export
@@ -212,10 +211,8 @@ std::string MessageOf(const RuntimeError& error) {
          Printable(error.Description()) + " (" + Printable(error.Source()) + ")";
 }
 
-}  // namespace
-
-int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
-        bool err_is_terminal) {
+int RunOn(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
+          bool err_is_terminal) {
   const Parsed parsed = ParseArguments(arguments);
   if (!parsed.options) {
     (parsed.exit_status == 0 ? out : err) << parsed.output;
@@ -238,13 +235,30 @@ int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
   UnreadScope unread_scope(unread);
   int status = kRuntimeError;
   try {
-    Progress progress(view, err, err_is_terminal && !options.quiet);
-    status = Session(options, *host, view, unread).Work(start, out);
+    GivenNames names;
+    Progress progress(view, names, err, err_is_terminal && !options.quiet);
+    status = Session(options, *host, view, names, unread).Work(start, out);
   } catch (const RuntimeError& error) {
     err << MessageOf(error) << '\n';
   }
   TellUnread(unread, *host, err);
   return status;
+}
+
+}  // namespace
+
+// What is no run-time error of the program is a bug in it, or the end of the memory; the user gets
+// a line all the same.
+int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
+        bool err_is_terminal) {
+  try {
+    return RunOn(arguments, out, err, err_is_terminal);
+  } catch (const std::bad_alloc&) {
+    err << "trovex-cli: mémoire insuffisante\n";
+  } catch (const std::exception& error) {
+    err << "trovex-cli: erreur interne : " << Printable(FromUtf8(error.what())) << '\n';
+  }
+  return kRuntimeError;
 }
 
 }  // namespace trovex::cli

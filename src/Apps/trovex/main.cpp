@@ -1,5 +1,9 @@
 // Trovex.exe: puts platform and view in place and hands over to the program.
+#include <exception>
+#include <new>
+
 #include "Lib/LIB_DIALOGUE.h"
+#include "Platform/Encoding.h"
 #include "Platform/Win32/Win32Platform.h"
 #include "Platform/Win32/Windows.h"
 #include "Resources/Version.h"
@@ -11,11 +15,23 @@
 namespace trovex {
 namespace {
 
-// A run-time error that no handler caught: its message, before the end.
-void Report(const RuntimeError& error) {
-  const Text text =
-      u"Erreur d'exécution '" + Decimal(error.Number()) + u"' :\r\n\r\n" + error.Description();
-  CurrentView().ShowBox({BoxStyle::kErreur, Text(kTitle), text});
+constexpr int kFailed = 3;
+
+// What is told of a failure that no handler caught.
+Text MessageOf(std::exception_ptr failure) {
+  try {
+    std::rethrow_exception(failure);
+  } catch (const RuntimeError& error) {
+    return u"Erreur d'exécution '" + Decimal(error.Number()) + u"' :\r\n\r\n" + error.Description();
+  } catch (const std::bad_alloc&) {
+    return ErrorDescription(ErrorNumber::kOutOfMemory);
+  } catch (const std::exception& error) {
+    return u"Erreur interne : " + FromUtf8(error.what());
+  }
+}
+
+void Report(std::exception_ptr failure) {
+  CurrentView().ShowBox({BoxStyle::kErreur, Text(kTitle), MessageOf(failure)});
 }
 
 int RunProgram() {
@@ -34,9 +50,9 @@ int RunProgram() {
     Main(form);
     view.Run();
     return 0;
-  } catch (const RuntimeError& error) {
-    view.Fail(error);  // nothing new where it comes from the loop
-    return 1;
+  } catch (...) {
+    view.Fail(std::current_exception());  // nothing new where it comes from the loop
+    return kFailed;
   }
 }
 

@@ -1,11 +1,8 @@
 #include "Platform/Posix/Errors.h"
 
-#include <locale.h>
-#include <string.h>
-
 #include <cerrno>
 
-#include "Platform/Encoding.h"
+#include "Platform/SystemTexts.h"
 
 namespace trovex::posix {
 
@@ -47,10 +44,47 @@ ErrorNumber ErrorNumberOf(int error) {
   }
 }
 
-Text ErrorText(int error) {
-  // Never freed: it lives as long as the process.
-  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-  return FromUtf8(strerror_l(error, plain));
+std::uint32_t SystemCodeOf(int error) {
+  switch (error) {
+    case ENOENT:
+      return kSystemFileNotFound;
+    case ENOTDIR:
+      return kSystemPathNotFound;
+    case EACCES:
+    case EPERM:
+    case EISDIR:
+      return kSystemAccessDenied;
+    case EROFS:
+      return kSystemWriteProtected;
+    case EBUSY:
+    case ETXTBSY:
+      return kSystemInUse;
+    case ENOSPC:
+    case EDQUOT:
+      return kSystemDiskFull;
+    case EFBIG:
+      return kSystemFileTooLarge;
+    case EMFILE:
+    case ENFILE:
+      return kSystemTooManyFiles;
+    case ENOMEM:
+      return kSystemOutOfMemory;
+    case EINVAL:
+    case EILSEQ:
+      return kSystemInvalidName;
+    case ENAMETOOLONG:
+      return kSystemNameTooLong;
+    case ENODEV:
+      return kSystemInvalidDrive;
+    case EIO:
+      return kSystemDeviceIo;
+    default:
+      return 0;
+  }
+}
+
+RuntimeError ErrorOf(int error) {
+  return RuntimeError::OfSystem(ErrorNumberOf(error), SystemCodeOf(error));
 }
 
 }  // namespace trovex::posix

@@ -1,15 +1,20 @@
 // The system's error numbers (errno) as errors of the program.
 #pragma once
 
+#include <cstdint>
+
 #include "Platform/RuntimeError.h"
-#include "Platform/Text.h"
 
 namespace trovex::posix {
 
 // The one place where an errno becomes a run-time error's number.
 ErrorNumber ErrorNumberOf(int error);
 
-// The system's text for an errno, the same in every locale.
-Text ErrorText(int error);
+// The code by which Windows knows such an error; 0 where it has none, or where its text would not
+// be about what happened.
+std::uint32_t SystemCodeOf(int error);
+
+// Both at once.
+RuntimeError ErrorOf(int error);
 
 }  // namespace trovex::posix

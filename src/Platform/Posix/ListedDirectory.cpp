@@ -6,6 +6,7 @@
 
 #include "Platform/Posix/Errors.h"
 #include "Platform/Posix/FileReads.h"
+#include "Platform/Records/IconResource.h"
 #include "Platform/Records/VersionResource.h"
 
 namespace trovex::posix {
@@ -47,7 +48,7 @@ FileDescriptor ListedDirectory::OpenFile(const ListedEntry& entry) const {
 
 FileHandle ListedDirectory::OpenRead(const ListedEntry& entry) {
   FileDescriptor file = OpenFile(entry);
-  if (!file.IsOpen()) throw RuntimeError(ErrorNumberOf(errno));
+  if (!file.IsOpen()) throw ErrorOf(errno);
   return files_.Add(std::move(file));
 }
 

@@ -16,6 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char16_t* kWindowsDirectory = u"\\WINDOWS";
+constexpr const char16_t* kSystemDirectory = u"\\WINDOWS\\SYSTEM";
+
 // The path with its links resolved as far as it exists: no link to a directory leads anywhere by
 // the names of the program. The last level stays as it is, for it may be a link to a file.
 std::string RealPath(const std::string& path) {
@@ -67,14 +70,14 @@ std::string Sentence(const std::string& directory, const std::string& complaint)
 
 // The file types whose icons the program asks for: a program bears its own, an archive has one of
 // the system's.
-void FillRegistry(posix::RegistryTable& registry) {
+void FillRegistry(posix::RegistryTable& registry, const Text& system_directory) {
   const auto set = [&](const Text& key, const Text& value) {
     registry.SetString(RegistryRoot::kClassesRoot, key, value);
   };
   set(u".exe", u"exefile");
   set(u"exefile\\defaulticon", u"%1");
   set(u".zip", u"zipfile");
-  set(u"zipfile\\defaulticon", u"C:\\WINDOWS\\SYSTEM\\SHELL32.DLL,3");
+  set(u"zipfile\\defaulticon", system_directory + u"\\SHELL32.DLL,3");
 }
 
 class PosixHost : public Host {
@@ -84,7 +87,7 @@ class PosixHost : public Host {
         root_drive_(drive_ == u'Z' ? u'Y' : u'Z'),
         given_(directory),
         platform_(Setup(directory)) {
-    FillRegistry(platform_.Registry());
+    FillRegistry(platform_.Registry(), SystemDrive() + kSystemDirectory);
   }
 
   Platform& GetPlatform() override { return platform_; }
@@ -108,11 +111,17 @@ class PosixHost : public Host {
   }
 
  private:
+  // The stand-in for Windows stands on a drive that nothing else is, so that directories of its
+  // names on the disc are the disc's own.
+  Text SystemDrive() const { return drive_ == u'C' ? u"X:" : u"C:"; }
+
   PosixSetup Setup(const std::string& directory) const {
     const fs::path real = RealPath(directory);
     PosixSetup setup;
     setup.drives = {{drive_, real.string(), DriveType::kCdRom, FromUtf8(real.filename().string())},
                     {root_drive_, "/", DriveType::kFixed, u""}};
+    setup.windows_directory = SystemDrive() + kWindowsDirectory;
+    setup.system_directory = SystemDrive() + kSystemDirectory;
     // The host's own directories are named through its root drive.
     PosixPlatform root(setup);
     setup.program_directory = root.NameOfHost(root_drive_, RealPath(ProgramDirectory()));

@@ -16,8 +16,10 @@
 #include "Platform/Posix/ListedDirectory.h"
 #include "Platform/Posix/Replacement.h"
 #include "Platform/Posix/SystemData.h"
+#include "Platform/Records/IconResource.h"
 #include "Platform/Records/ProfileFile.h"
 #include "Platform/Records/VersionResource.h"
+#include "Platform/SystemTexts.h"
 
 namespace trovex {
 
@@ -27,6 +29,8 @@ using namespace records;
 namespace {
 
 constexpr std::size_t kCopyBuffer = 65536;
+constexpr const char16_t* kSystemLibrary = u"\\SHELL32.DLL";
+
 // True for the errors that a place from memory gives once the disk has changed.
 bool IsStale(int error) {
   return error == ENOENT || error == ENOTDIR || error == ELOOP;
@@ -57,7 +61,7 @@ int WithSource(const Place& place, Use use) {
   if (!file.IsOpen()) return errno;
   FileSource source(file);
   use(source);
-  return source.Error();
+  return source.Error() == ESPIPE ? ENXIO : source.Error();
 }
 
 // The name if it fits with its terminator, else the size that it needs.
@@ -114,14 +118,13 @@ int PosixPlatform::OnPlace(const Text& name, Use use) {
     const std::optional<Place> place = names_.Find(name);
     const int error = place ? use(*place) : errno;
     if (error == 0) return 0;
-    if (!place || !place->hinted || !IsStale(error)) return last_error_ = error;
+    if (!place || !place->hinted || !IsStale(error)) return error;
     names_.Forget();
   }
 }
 
 void PosixPlatform::Raise(int error) {
-  last_error_ = error;
-  throw RuntimeError(ErrorNumberOf(error));
+  throw ErrorOf(error);
 }
 
 // --- Directory search ---------------------------------------------------------------------------
@@ -136,14 +139,9 @@ FindHandle PosixPlatform::FindFirstFile(const Text& pattern, FindData& data) {
   const Text directory = cut == 0 ? Text(u".") : pattern.substr(0, drop ? cut - 1 : cut);
   bool root = false;
   auto listing = names_.List(directory, root);
-  if (!listing) {
-    last_error_ = errno;
-    return FindHandle::kInvalid;
-  }
+  if (!listing) return FindHandle::kInvalid;
   const auto dots = root ? EntrySearch::Dots::kNone : EntrySearch::Dots::kFirst;
-  const FindHandle handle = finds_.Begin(EntrySearch(std::move(listing), level, dots), data);
-  if (handle == FindHandle::kInvalid) last_error_ = ENOENT;
-  return handle;
+  return finds_.Begin(EntrySearch(std::move(listing), level, dots), data);
 }
 
 FindHandle PosixPlatform::FindSingle(const Text& name, FindData& data) {
@@ -181,9 +179,7 @@ std::shared_ptr<HeldDirectory> PosixPlatform::OpenDirectory(const Text& director
     return opened.IsOpen() ? 0 : errno;
   });
   if (error != 0) return nullptr;
-  auto held = ListedDirectory::Read(files_, std::move(opened));
-  if (!held) last_error_ = errno;
-  return held;
+  return ListedDirectory::Read(files_, std::move(opened));
 }
 
 // --- Files --------------------------------------------------------------------------------------
@@ -276,7 +272,6 @@ void PosixPlatform::DeleteFile(const Text& name) {
 }
 
 void PosixPlatform::PutInPlace(const Text& source, const Text& place) {
-  BeforeWriting();
   std::string from;
   int error = OnPlace(source, [&](const Place& found) {
     from = found.host;
@@ -296,7 +291,6 @@ void PosixPlatform::PutInPlace(const Text& source, const Text& place) {
 }
 
 bool PosixPlatform::MakeDirectory(const Text& name) {
-  BeforeWriting();
   const int error = OnPlace(name, [](const Place& place) {
     if (place.kind == EntryKind::kDirectory) return 0;
     if (place.kind != EntryKind::kMissing) return ENOTDIR;
@@ -320,7 +314,9 @@ std::string PosixPlatform::ReadVersionBlock(const Text& name) {
   return block;
 }
 
-int PosixPlatform::ExtractIconEx(const Text& file, int) {
+int PosixPlatform::ExtractIconEx(const Text& file, int, IconOwner) {
+  // The stand-in for the system's library is no file, but it has icons.
+  if (EqualsNoCase(file, setup_.system_directory + kSystemLibrary)) return 1;
   bool holds = false;
   OnPlace(file, [&](const Place& place) {
     return WithSource(place, [&](ByteSource& source) { holds = HoldsIcon(source); });
@@ -470,12 +466,8 @@ void PosixPlatform::CloseHandle(SnapshotHandle snapshot) {
 
 void PosixPlatform::MessageBeep(std::uint32_t) {}
 
-std::uint32_t PosixPlatform::GetLastError() {
-  return static_cast<std::uint32_t>(last_error_);
-}
-
 Text PosixPlatform::FormatMessage(std::uint32_t code) {
-  return ErrorText(static_cast<int>(code));
+  return SystemText(code);
 }
 
 double PosixPlatform::Random() {

@@ -78,7 +78,7 @@ class PosixPlatform : public Platform {
   int FindExecutable(const Text& file, const Text& directory, Text& buffer) override;
   void StartProgram(const Text& command_line, int mode) override;
   bool HasHelpEngine() override;
-  int ExtractIconEx(const Text& file, int index) override;
+  int ExtractIconEx(const Text& file, int index, IconOwner owner) override;
   long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override;
   long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
                     RegistryKey& key) override;
@@ -92,7 +92,6 @@ class PosixPlatform : public Platform {
   bool Process32Next(SnapshotHandle snapshot, ProcessEntry& entry) override;
   void CloseHandle(SnapshotHandle snapshot) override;
   void MessageBeep(std::uint32_t type) override;
-  std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
   double Random() override;
 
@@ -108,7 +107,7 @@ class PosixPlatform : public Platform {
 
  private:
   // Runs `use` on the place of a name; if what memory held of it turns out to be gone, once more
-  // on what is found afresh. 0, or the errno of the failure, which GetLastError then knows.
+  // on what is found afresh. 0, or the errno of the failure.
   template <typename Use>
   int OnPlace(const Text& name, Use use);
   [[noreturn]] void Raise(int error);
@@ -123,7 +122,6 @@ class PosixPlatform : public Platform {
   PosixSetup setup_;
   posix::RegistryTable registry_;
   posix::SnapshotTable snapshots_;
-  int last_error_ = 0;
   std::mt19937_64 random_;
 };
 

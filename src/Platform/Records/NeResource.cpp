@@ -1,4 +1,4 @@
-#include "Platform/Records/VersionResource.h"
+#include "Platform/Records/Resources.h"
 
 namespace trovex::records {
 namespace {
@@ -9,61 +9,60 @@ constexpr std::size_t kResidentNamesAt = 0x26;
 constexpr std::size_t kTargetSystemAt = 0x36;
 constexpr std::uint16_t kTargetOs2 = 1;  // whose resource table looks otherwise
 
-constexpr std::uint16_t kNumbered = 0x8000;  // marks a type's number instead of its name
-constexpr std::uint16_t kVersionType = 16;
-constexpr std::size_t kTypeSize = 8;       // type, count, reserved
-constexpr std::size_t kResourceSize = 12;  // offset, length, flags, name, reserved
+constexpr std::uint16_t kNumbered = 0x8000;  // marks a number in the place of a name
+constexpr std::size_t kTypeSize = 8;         // type, count, reserved
+constexpr std::size_t kResourceSize = 12;    // offset, length, flags, name, reserved
 
 constexpr unsigned kMaxShift = 15;
 constexpr int kMaxTypes = 1024;
 
-// The first resource of the version type; offset and length count in units of 1 << shift.
-std::string ReadRecord(ByteReader& file, std::uint64_t at, unsigned shift) {
-  const auto resource = file.At(at, kResourceSize);
-  if (!resource) return {};
-  const std::uint64_t offset = std::uint64_t{resource->U16(0)} << shift;
-  const std::uint64_t length = std::uint64_t{resource->U16(2)} << shift;
-  std::string record;
-  if (length <= kMaxVersionResource) file.Copy(offset, static_cast<std::size_t>(length), record);
-  return record;
-}
-
-// Where the entries of a type stand; nothing where the file has none of it.
-struct TypeEntries {
-  std::uint64_t at;
-  unsigned shift;
-};
-
-std::optional<TypeEntries> FindType(ByteReader& file, std::uint64_t header, std::uint16_t wanted) {
-  const auto ne = file.At(header, kNeHeaderSize);
-  if (!ne || (ne->U16(kTargetSystemAt) & 0xFF) == kTargetOs2) return std::nullopt;
-  // A file without resources lets both tables begin at the same place.
-  if (ne->U16(kResourceTableAt) == ne->U16(kResidentNamesAt)) return std::nullopt;
-  std::uint64_t at = header + ne->U16(kResourceTableAt);
-  const auto table = file.At(at, 2);
-  if (!table || table->U16(0) > kMaxShift) return std::nullopt;
-  const unsigned shift = table->U16(0);
-  at += 2;
-  for (int types = 0; types < kMaxTypes; ++types) {
-    const auto type = file.At(at, kTypeSize);
-    if (!type || type->U16(0) == 0) return std::nullopt;
-    const std::size_t count = type->U16(2);
-    at += kTypeSize;
-    if (type->U16(0) == wanted && count > 0) return TypeEntries{at, shift};
-    at += count * kResourceSize;
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
-std::string ReadNeResource(ByteReader& file, std::uint64_t header) {
-  const auto entries = FindType(file, header, kNumbered | kVersionType);
-  return entries ? ReadRecord(file, entries->at, entries->shift) : std::string();
+NeResources::NeResources(ByteReader& file, std::uint64_t header) : file_(file) {
+  const auto ne = file.At(header, kNeHeaderSize);
+  if (!ne || (ne->U16(kTargetSystemAt) & 0xFF) == kTargetOs2) return;
+  // A file without resources lets both tables begin at the same place.
+  if (ne->U16(kResourceTableAt) == ne->U16(kResidentNamesAt)) return;
+  const std::uint64_t at = header + ne->U16(kResourceTableAt);
+  const auto table = file.At(at, 2);
+  if (!table || table->U16(0) > kMaxShift) return;
+  shift_ = table->U16(0);
+  table_ = at;
 }
 
-bool HasNeResource(ByteReader& file, std::uint64_t header, std::uint16_t type) {
-  return FindType(file, header, kNumbered | type).has_value();
+NeResources::Entries NeResources::EntriesOf(std::uint16_t wanted) const {
+  std::uint64_t at = table_ + 2;
+  for (int types = 0; table_ != 0 && types < kMaxTypes; ++types) {
+    const auto type = file_.At(at, kTypeSize);
+    if (!type || type->U16(0) == 0) break;
+    const std::size_t count = type->U16(2);
+    at += kTypeSize;
+    if (type->U16(0) == (kNumbered | wanted) && count > 0) return {at, count};
+    at += count * kResourceSize;
+  }
+  return {};
+}
+
+std::optional<Extent> NeResources::EntryAt(std::uint64_t at) const {
+  const auto entry = file_.At(at, kResourceSize);
+  if (!entry) return std::nullopt;
+  return Extent{std::uint64_t{entry->U16(0)} << shift_, std::uint64_t{entry->U16(2)} << shift_};
+}
+
+std::optional<Extent> NeResources::First(std::uint16_t type) const {
+  const Entries entries = EntriesOf(type);
+  return entries.count > 0 ? EntryAt(entries.at) : std::nullopt;
+}
+
+std::optional<Extent> NeResources::Numbered(std::uint16_t type, std::uint16_t number) const {
+  const Entries entries = EntriesOf(type);
+  for (std::size_t i = 0; i < entries.count; ++i) {
+    const std::uint64_t at = entries.at + i * kResourceSize;
+    const auto entry = file_.At(at, kResourceSize);
+    if (!entry) break;
+    if (entry->U16(6) == (kNumbered | number)) return EntryAt(at);
+  }
+  return std::nullopt;
 }
 
 }  // namespace trovex::records

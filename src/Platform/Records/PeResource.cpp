@@ -1,7 +1,6 @@
 #include <algorithm>
-#include <vector>
 
-#include "Platform/Records/VersionResource.h"
+#include "Platform/Records/Resources.h"
 
 namespace trovex::records {
 namespace {
@@ -21,153 +20,137 @@ constexpr std::size_t kOptionalPrefix32 = kDirectoryCountAt32 + 4 + (kResourceDi
 constexpr std::size_t kOptionalPrefix64 = kDirectoryCountAt64 + 4 + (kResourceDirectory + 1) * 8;
 
 constexpr std::size_t kSectionSize = 40;
+constexpr std::uint32_t kNotInFile = 0x80;   // the section's contents are zeros of the loader
 constexpr std::uint32_t kSectorMask = 511;   // raw data begins at a sector, whatever is written
 constexpr std::uint32_t kPageSize = 0x1000;  // below this alignment the file is mapped flat
 constexpr std::size_t kMaxSections = 96;
 
 constexpr std::size_t kTableSize = 16;  // header of a table of resources
 constexpr std::size_t kEntrySize = 8;
+constexpr std::size_t kLeafSize = 8;  // address and size
 constexpr std::uint32_t kSubtable = 0x80000000;
-constexpr std::uint32_t kVersionType = 16;
 constexpr std::uint32_t kMaxEntries = 4096;
 
-struct Section {
-  std::uint32_t address, size, offset;
-};
+std::optional<std::uint32_t> Subtable(std::optional<std::uint32_t> target) {
+  if (!target || (*target & kSubtable) == 0) return std::nullopt;
+  return *target & ~kSubtable;
+}
 
-// What of the headers counts.
-struct Image {
-  std::uint32_t resources = 0;  // address of the root table
-  std::uint32_t headers_size = 0;
-  bool flat = false;
-  std::vector<Section> sections;
-};
+}  // namespace
 
-bool ReadOptionalHeader(ByteReader& file, std::uint64_t at, std::size_t size, Image& image) {
-  const auto magic = file.At(at, 2);
+PeResources::PeResources(ByteReader& file, std::uint64_t header) : file_(file) {
+  const auto file_header = file.At(header, kFileHeaderSize);
+  if (!file_header) return;
+  const std::size_t sections = file_header->U16(kSectionCountAt);
+  const std::size_t optional_size = file_header->U16(kOptionalSizeAt);
+  const std::uint64_t optional = header + kFileHeaderSize;
+  if (ReadOptionalHeader(optional, optional_size) &&
+      ReadSections(optional + optional_size, sections)) {
+    root_ = OffsetOf(resources_);
+  }
+}
+
+bool PeResources::ReadOptionalHeader(std::uint64_t at, std::size_t size) {
+  const auto magic = file_.At(at, 2);
   if (!magic) return false;
   const bool wide = magic->U16(0) == kMagic64;
   if (!wide && magic->U16(0) != kMagic32) return false;
   const std::size_t prefix = wide ? kOptionalPrefix64 : kOptionalPrefix32;
   const std::size_t count_at = wide ? kDirectoryCountAt64 : kDirectoryCountAt32;
-  const auto header = file.At(at, prefix);
+  const auto header = file_.At(at, prefix);
   if (!header || size < prefix || header->U32(count_at) <= kResourceDirectory) return false;
-  image.resources = header->U32(count_at + 4 + kResourceDirectory * 8);
-  image.headers_size = header->U32(kHeadersSizeAt);
-  image.flat = header->U32(kSectionAlignmentAt) < kPageSize;
-  return image.resources != 0;
+  resources_ = header->U32(count_at + 4 + kResourceDirectory * 8);
+  headers_size_ = header->U32(kHeadersSizeAt);
+  flat_ = header->U32(kSectionAlignmentAt) < kPageSize;
+  return resources_ != 0;
 }
 
-bool ReadSections(ByteReader& file, std::uint64_t at, std::size_t count, Image& image) {
+bool PeResources::ReadSections(std::uint64_t at, std::size_t count) {
   if (count > kMaxSections) return false;
   for (std::size_t i = 0; i < count; ++i, at += kSectionSize) {
-    const auto header = file.At(at, kSectionSize);
+    const auto header = file_.At(at, kSectionSize);
     if (!header) return false;
-    image.sections.push_back({header->U32(12), header->U32(16), header->U32(20) & ~kSectorMask});
+    sections_.push_back({header->U32(12), header->U32(16), header->U32(20), header->U32(36)});
   }
   return true;
 }
 
-// Where an address of the loaded image lies in the file.
-bool OffsetOf(const Image& image, std::uint32_t address, std::uint64_t& offset) {
-  offset = address;
-  if (image.flat || address < image.headers_size) return true;
+std::optional<std::uint64_t> PeResources::OffsetOf(std::uint32_t address) const {
+  if (flat_ || address < headers_size_) return address;
   const auto holds = [address](const Section& section) {
     return address >= section.address && address - section.address < section.size;
   };
-  const auto section = std::find_if(image.sections.begin(), image.sections.end(), holds);
-  if (section == image.sections.end()) return false;
-  offset = std::uint64_t{section->offset} + (address - section->address);
-  return true;
+  const auto section = std::find_if(sections_.begin(), sections_.end(), holds);
+  if (section == sections_.end()) return std::nullopt;
+  return std::uint64_t{section->raw & ~kSectorMask} + (address - section->address);
 }
 
-// The tables of resources: type, name, language. Offsets in them count from the first one.
-class ResourceTree {
- public:
-  ResourceTree(ByteReader& file, std::uint64_t root) : file_(file), root_(root) {}
-
-  // Each gives the offset of what the entry leads to, or nothing.
-  std::optional<std::uint32_t> TypeTable(std::uint32_t type) {
-    const auto table = file_.At(root_, kTableSize);
-    if (!table) return std::nullopt;
-    const std::uint32_t named = table->U16(12), numbered = table->U16(14);
-    if (named + numbered > kMaxEntries) return std::nullopt;
-    for (std::uint32_t i = named; i < named + numbered; ++i) {
-      const auto entry = file_.At(root_ + kTableSize + i * kEntrySize, kEntrySize);
-      if (!entry) return std::nullopt;
-      if (entry->U32(0) == type) return Subtable(entry->U32(4));
-    }
-    return std::nullopt;
+bool PeResources::IsWhole() const {
+  if (!root_ || flat_ || resources_ < headers_size_) return false;
+  std::uint64_t end = 0;
+  bool own_section = false;
+  for (const Section& section : sections_) {
+    if (section.size == 0 || (section.flags & kNotInFile) != 0) continue;
+    if ((section.raw & kSectorMask) != 0) return false;
+    end = std::max(end, std::uint64_t{section.raw} + section.size);
+    own_section = own_section || section.address == resources_;
   }
-
-  std::optional<std::uint32_t> FirstTable(std::uint32_t table) {
-    const auto target = First(table);
-    return target ? Subtable(*target) : std::nullopt;
-  }
-
-  std::optional<std::uint32_t> FirstLeaf(std::uint32_t table) {
-    const auto target = First(table);
-    return target && (*target & kSubtable) == 0 ? target : std::nullopt;
-  }
-
-  std::optional<ByteView> Leaf(std::uint32_t leaf) { return file_.At(root_ + leaf, 8); }
-
- private:
-  std::optional<std::uint32_t> First(std::uint32_t at) {
-    const auto table = file_.At(root_ + at, kTableSize + kEntrySize);
-    if (!table || table->U16(12) + table->U16(14) == 0) return std::nullopt;
-    return table->U32(kTableSize + 4);
-  }
-
-  static std::optional<std::uint32_t> Subtable(std::uint32_t target) {
-    if ((target & kSubtable) == 0) return std::nullopt;
-    return target & ~kSubtable;
-  }
-
-  ByteReader& file_;
-  std::uint64_t root_;
-};
-
-std::string ReadRecord(ByteReader& file, const Image& image) {
-  std::uint64_t root = 0;
-  if (!OffsetOf(image, image.resources, root)) return {};
-  ResourceTree tree(file, root);
-  const auto names = tree.TypeTable(kVersionType);
-  const auto languages = names ? tree.FirstTable(*names) : std::nullopt;
-  const auto leaf = languages ? tree.FirstLeaf(*languages) : std::nullopt;
-  const auto data = leaf ? tree.Leaf(*leaf) : std::nullopt;
-  if (!data || data->U32(4) > kMaxVersionResource) return {};
-  const std::uint32_t size = data->U32(4);
-  std::uint64_t offset = 0;
-  std::string record;
-  if (OffsetOf(image, data->U32(0), offset)) file.Copy(offset, size, record);
-  return record;
+  return own_section && file_.At(end - 1, 1).has_value();
 }
 
-bool ReadImage(ByteReader& file, std::uint64_t header, Image& image) {
-  const auto file_header = file.At(header, kFileHeaderSize);
-  if (!file_header) return false;
-  const std::size_t sections = file_header->U16(kSectionCountAt);
-  const std::size_t optional_size = file_header->U16(kOptionalSizeAt);
-  const std::uint64_t optional = header + kFileHeaderSize;
-  return ReadOptionalHeader(file, optional, optional_size, image) &&
-         ReadSections(file, optional + optional_size, sections, image);
+// The tables of resources (type, name, language) lead from one to the next by offsets that count
+// from the first one. A table's entries are its named ones, then its numbered ones; all must be
+// there, since readers go through them in their own ways.
+std::optional<std::uint32_t> PeResources::FirstIn(std::uint32_t at) const {
+  const auto table = file_.At(*root_ + at, kTableSize);
+  if (!table) return std::nullopt;
+  const std::uint32_t count = std::uint32_t{table->U16(12)} + table->U16(14);
+  if (count == 0 || count > kMaxEntries) return std::nullopt;
+  const std::uint64_t entries = *root_ + at + kTableSize;
+  if (!file_.At(entries + (count - 1) * kEntrySize, kEntrySize)) return std::nullopt;
+  const auto first = file_.At(entries, kEntrySize);
+  return first ? std::optional(first->U32(4)) : std::nullopt;
 }
 
-}  // namespace
-
-std::string ReadPeResource(ByteReader& file, std::uint64_t header) {
-  Image image;
-  return ReadImage(file, header, image) ? ReadRecord(file, image) : std::string();
+std::optional<std::uint32_t> PeResources::NumberedIn(std::uint32_t at, std::uint32_t number) const {
+  const auto table = file_.At(*root_ + at, kTableSize);
+  if (!table) return std::nullopt;
+  const std::uint32_t named = table->U16(12), numbered = table->U16(14);
+  if (named + numbered > kMaxEntries) return std::nullopt;
+  for (std::uint32_t i = named; i < named + numbered; ++i) {
+    const auto entry = file_.At(*root_ + at + kTableSize + i * kEntrySize, kEntrySize);
+    if (!entry) return std::nullopt;
+    if (entry->U32(0) == number) return entry->U32(4);
+  }
+  return std::nullopt;
 }
 
-bool HasPeResource(ByteReader& file, std::uint64_t header, std::uint16_t type) {
-  Image image;
-  std::uint64_t root = 0;
-  if (!ReadImage(file, header, image) || !OffsetOf(image, image.resources, root)) return false;
-  ResourceTree tree(file, root);
-  const auto names = tree.TypeTable(type);
-  return names && tree.FirstTable(*names).has_value();
+std::optional<Extent> PeResources::LanguageOf(std::optional<std::uint32_t> name,
+                                              std::uint16_t type) const {
+  const auto languages = Subtable(name);
+  const auto table = languages ? file_.At(*root_ + *languages, kTableSize) : std::nullopt;
+  if (!table || table->U16(12) != 0) return std::nullopt;  // no language has a name
+  auto target = FirstIn(*languages);
+  if (target && type != kVersionType) {
+    const auto neutral = NumberedIn(*languages, 0);
+    if (neutral) target = neutral;
+  }
+  if (!target || (*target & kSubtable) != 0) return std::nullopt;
+  const auto leaf = file_.At(*root_ + *target, kLeafSize);
+  if (!leaf) return std::nullopt;
+  const std::uint32_t size = leaf->U32(4);
+  const auto offset = OffsetOf(leaf->U32(0));
+  return offset ? std::optional<Extent>({*offset, size}) : std::nullopt;
+}
+
+std::optional<Extent> PeResources::First(std::uint16_t type) const {
+  const auto names = root_ ? Subtable(NumberedIn(0, type)) : std::nullopt;
+  return names ? LanguageOf(FirstIn(*names), type) : std::nullopt;
+}
+
+std::optional<Extent> PeResources::Numbered(std::uint16_t type, std::uint16_t number) const {
+  const auto names = root_ ? Subtable(NumberedIn(0, type)) : std::nullopt;
+  return names ? LanguageOf(NumberedIn(*names, number), type) : std::nullopt;
 }
 
 }  // namespace trovex::records

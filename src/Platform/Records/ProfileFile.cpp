@@ -8,9 +8,46 @@ namespace trovex::records {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kUtf16Mark = "\xFF\xFE";
 
+// What a file is read as and written back as. One in UTF-16 goes through UTF-8, in which brackets,
+// equal signs and line ends are single bytes as well.
+struct Form {
+  Text (*decode)(std::string_view bytes);
+  std::string (*encode)(TextView text);
+  bool one_byte_a_character;
+};
+
+constexpr Form kAnsi = {FromCp1252, ToCp1252, true};
+constexpr Form kUnicode = {FromUtf8, ToUtf8, false};
+
+bool IsUtf16(std::string_view file) {
+  return file.starts_with(kUtf16Mark);
+}
+
+std::string Utf8FromUtf16(std::string_view file) {
+  file.remove_prefix(kUtf16Mark.size());
+  Text text;
+  for (std::size_t i = 0; i + 1 < file.size(); i += 2) {
+    const auto low = static_cast<unsigned char>(file[i]);
+    const auto high = static_cast<unsigned char>(file[i + 1]);
+    text += static_cast<char16_t>(high << 8 | low);
+  }
+  return ToUtf8(text);
+}
+
+std::string Utf16FromUtf8(std::string_view bytes) {
+  std::string file(kUtf16Mark);
+  for (const char16_t unit : FromUtf8(bytes)) {
+    file += static_cast<char>(unit & 0xFF);
+    file += static_cast<char>(unit >> 8);
+  }
+  return file;
+}
+
+// The end-of-file mark of MS-DOS counts as a blank.
 std::string_view Stripped(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
+  constexpr std::string_view kBlanks = " \t\x1A";
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
@@ -22,8 +59,9 @@ std::string_view WithoutQuotes(std::string_view text) {
   return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
-bool Matches(std::string_view bytes, TextView name) {
-  return bytes.size() == name.size() && EqualsNoCase(FromCp1252(bytes), name);
+bool Matches(const Form& form, std::string_view bytes, TextView name) {
+  if (form.one_byte_a_character && bytes.size() != name.size()) return false;
+  return EqualsNoCase(form.decode(bytes), name);
 }
 
 // One line, and what it says.
@@ -40,7 +78,7 @@ void Classify(std::string_view text, Line& line) {
   if (text.empty() || text[0] == ';') return;
   if (text[0] == '[') {
     line.kind = Line::Kind::kSection;
-    line.name = text.substr(1, text.find(']') - 1);
+    line.name = Stripped(text.substr(1, text.find(']') - 1));
   } else if (const std::size_t equals = text.find('='); equals != std::string_view::npos) {
     line.kind = Line::Kind::kKey;
     line.name = Stripped(text.substr(0, equals));
@@ -76,16 +114,16 @@ struct Spot {
   std::size_t section_end = 0;  // behind the section's last line that is not empty
 };
 
-Spot FindSpot(std::string_view file, TextView section, TextView key) {
+Spot FindSpot(const Form& form, std::string_view file, TextView section, TextView key) {
   Spot spot;
   Lines lines(file);
   while (const std::optional<Line> line = lines.Next()) {
     if (line->kind == Line::Kind::kSection) {
       if (spot.section_found) break;
-      spot.section_found = Matches(line->name, section);
+      spot.section_found = Matches(form, line->name, section);
     }
     if (!spot.section_found) continue;
-    if (line->kind == Line::Kind::kKey && Matches(line->name, key)) {
+    if (line->kind == Line::Kind::kKey && Matches(form, line->name, key)) {
       spot.key = line;
       break;
     }
@@ -94,7 +132,7 @@ Spot FindSpot(std::string_view file, TextView section, TextView key) {
   return spot;
 }
 
-TextView StrippedKey(TextView key) {
+TextView StrippedName(TextView key) {
   const std::size_t first = key.find_first_not_of(u" \t");
   if (first == TextView::npos) return {};
   return key.substr(first, key.find_last_not_of(u" \t") - first + 1);
@@ -104,42 +142,56 @@ bool EndsLine(std::string_view file) {
   return file.empty() || file.back() == '\n' || file.back() == '\r';
 }
 
+std::string WithValue(const Form& form, std::string_view file, TextView section, TextView key,
+                      TextView value) {
+  const Spot spot = FindSpot(form, file, section, key);
+  if (spot.key) {
+    // The key keeps its spelling, and the line its end.
+    return std::string(file.substr(0, spot.key->begin))
+        .append(spot.key->name)
+        .append("=")
+        .append(form.encode(value))
+        .append(file.substr(spot.key->text_end));
+  }
+  std::string result(file.substr(0, spot.section_found ? spot.section_end : file.size()));
+  const std::string_view rest = file.substr(result.size());
+  if (!EndsLine(result)) result += kLineEnd;
+  if (!spot.section_found) result.append("[").append(form.encode(section)).append("]\r\n");
+  result.append(form.encode(key)).append("=").append(form.encode(value)).append(kLineEnd);
+  return result.append(rest);
+}
+
+std::optional<Text> ValueIn(const Form& form, std::string_view file, TextView section,
+                            TextView key) {
+  const Spot spot = FindSpot(form, file, section, key);
+  if (!spot.key) return std::nullopt;
+  return form.decode(WithoutQuotes(spot.key->value));
+}
+
 }  // namespace
 
-std::optional<std::string_view> FindProfileValue(std::string_view file, TextView section,
-                                                 TextView key) {
-  const Spot spot = FindSpot(file, section, StrippedKey(key));
-  if (!spot.key) return std::nullopt;
-  return WithoutQuotes(spot.key->value);
+std::optional<Text> FindProfileValue(std::string_view file, TextView section, TextView key) {
+  section = StrippedName(section);
+  key = StrippedName(key);
+  if (!IsUtf16(file)) return ValueIn(kAnsi, file, section, key);
+  return ValueIn(kUnicode, Utf8FromUtf16(file), section, key);
 }
 
 std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,
                             const Text& fallback, Text& buffer, std::uint32_t size) {
-  const std::optional<std::string_view> value = FindProfileValue(bytes, section, key);
+  const std::optional<Text> value = FindProfileValue(bytes, section, key);
   // Without trailing blanks; none but blanks leaves nothing.
-  buffer = value ? FromCp1252(*value) : fallback.substr(0, fallback.find_last_not_of(u' ') + 1);
+  buffer = value ? *value : fallback.substr(0, fallback.find_last_not_of(u' ') + 1);
   buffer.resize(std::min<std::size_t>(buffer.size(), size == 0 ? 0 : size - 1));
   return static_cast<std::uint32_t>(buffer.size());
 }
 
 std::string WithProfileValue(std::string_view file, TextView section, TextView key,
                              TextView value) {
-  key = StrippedKey(key);
-  const Spot spot = FindSpot(file, section, key);
-  if (spot.key) {
-    // The key keeps its spelling, and the line its end.
-    return std::string(file.substr(0, spot.key->begin))
-        .append(spot.key->name)
-        .append("=")
-        .append(ToCp1252(value))
-        .append(file.substr(spot.key->text_end));
-  }
-  std::string result(file.substr(0, spot.section_found ? spot.section_end : file.size()));
-  const std::string_view rest = file.substr(result.size());
-  if (!EndsLine(result)) result += kLineEnd;
-  if (!spot.section_found) result.append("[").append(ToCp1252(section)).append("]\r\n");
-  result.append(ToCp1252(key)).append("=").append(ToCp1252(value)).append(kLineEnd);
-  return result.append(rest);
+  section = StrippedName(section);
+  key = StrippedName(key);
+  if (!IsUtf16(file)) return WithValue(kAnsi, file, section, key, value);
+  return Utf16FromUtf8(WithValue(kUnicode, Utf8FromUtf16(file), section, key, value));
 }
 
 }  // namespace trovex::records

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "Platform/Records/ByteReader.h"
+#include "Platform/Records/ByteSource.h"
 
 namespace trovex::records {
 
@@ -13,17 +13,6 @@ namespace trovex::records {
 // kind, and where anything on the way to the record's end is malformed or cut short. What else the
 // record says is not looked at.
 std::string ReadVersionRecord(ByteSource& source);
-
-// True for an NE or PE executable that holds a group of icons (resource type 14), and for an icon
-// file.
-bool HoldsIcon(ByteSource& source);
-
-// The raw version resources of the two kinds, and whether they hold resources of a type; `header`
-// is the offset of the new header behind the MS-DOS one.
-std::string ReadNeResource(ByteReader& file, std::uint64_t header);
-std::string ReadPeResource(ByteReader& file, std::uint64_t header);
-bool HasNeResource(ByteReader& file, std::uint64_t header, std::uint16_t type);
-bool HasPeResource(ByteReader& file, std::uint64_t header, std::uint16_t type);
 
 // Larger resources are no version resources.
 inline constexpr std::size_t kMaxVersionResource = 65536;

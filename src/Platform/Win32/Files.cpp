@@ -3,7 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "Platform/SystemTexts.h"
 #include "Platform/Win32/Errors.h"
+#include "Platform/Win32/FileReads.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Unfinished.h"
@@ -30,20 +32,24 @@ bool IsDirectoryMissing(const Text& verbatim) {
   return !IsDirectory(verbatim.substr(0, verbatim.find_last_of(u'\\') + 1));
 }
 
+[[noreturn]] void Raise(ErrorNumber number, DWORD code) {
+  throw RuntimeError::OfSystem(number, code);
+}
+
 // The system refuses a directory as it refuses a file without permission, and does not always tell
 // a missing file from a missing directory or drive; the program does.
 [[noreturn]] void RaiseFor(const Text& verbatim, DWORD code) {
-  if (IsDirectory(verbatim)) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  if (IsDirectory(verbatim)) Raise(ErrorNumber::kPathFileAccess, kSystemAccessDenied);
   const ErrorNumber number = ErrorNumberOf(code);
   if (number == ErrorNumber::kFileNotFound && IsDirectoryMissing(verbatim)) {
-    throw RuntimeError(ErrorNumber::kPathNotFound);
+    Raise(ErrorNumber::kPathNotFound, kSystemPathNotFound);
   }
-  throw RuntimeError(number);
+  Raise(number, code);
 }
 
 // The name that the system opens; raises what no name and a device's name raise.
 Text Openable(const Text& name) {
-  if (name.empty()) throw RuntimeError(ErrorNumber::kFileNotFound);
+  if (name.empty()) Raise(ErrorNumber::kFileNotFound, kSystemFileNotFound);
   Text verbatim = VerbatimName(name);
   if (verbatim.empty()) throw RuntimeError(ErrorNumber::kPathFileAccess);
   return verbatim;
@@ -54,8 +60,12 @@ Text Openable(const Text& name) {
 Text Writable(const Text& name) {
   Text verbatim = Openable(name);
   const DWORD attributes = AttributesOf(verbatim);
-  if (attributes & FILE_ATTRIBUTE_DIRECTORY) throw RuntimeError(ErrorNumber::kPathFileAccess);
-  if (attributes & FILE_ATTRIBUTE_READONLY) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
+    Raise(ErrorNumber::kPathFileAccess, kSystemAccessDenied);
+  }
+  if (attributes & FILE_ATTRIBUTE_READONLY) {
+    Raise(ErrorNumber::kPermissionDenied, kSystemAccessDenied);
+  }
   return verbatim;
 }
 
@@ -70,18 +80,13 @@ OwnedFile OpenDiskFile(const Text& verbatim, DWORD access, DWORD share, DWORD di
   return file;
 }
 
-OwnedFile OpenSource(const Text& name) {
-  const Unredirected unredirected;
-  return OpenDiskFile(Openable(name), GENERIC_READ, kShareAll, OPEN_EXISTING);
-}
-
 std::size_t ReadAll(HANDLE file, char* buffer, std::size_t size) {
   std::size_t done = 0;
   while (done < size) {
     const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
     DWORD count = 0;
     if (!ReadFile(file, buffer + done, piece, &count, nullptr)) {
-      throw RuntimeError(ErrorNumber::kDeviceIo);
+      Raise(ErrorNumber::kDeviceIo, ::GetLastError());
     }
     if (count == 0) break;
     done += count;
@@ -94,16 +99,17 @@ void WriteAll(HANDLE file, const char* data, std::size_t size) {
     const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
     DWORD count = 0;
     if (!WriteFile(file, data + done, piece, &count, nullptr)) {
-      const ErrorNumber number = ErrorNumberOf(::GetLastError());
-      throw RuntimeError(number == ErrorNumber::kDiskFull ? number : ErrorNumber::kDeviceIo);
+      const DWORD code = ::GetLastError();
+      const ErrorNumber number = ErrorNumberOf(code);
+      Raise(number == ErrorNumber::kDiskFull ? number : ErrorNumber::kDeviceIo, code);
     }
-    if (count == 0) throw RuntimeError(ErrorNumber::kDiskFull);
+    if (count == 0) Raise(ErrorNumber::kDiskFull, kSystemDiskFull);
     done += count;
   }
 }
 
 void CloseNative(OwnedFile file) {
-  if (!CloseHandle(file.release())) throw RuntimeError(ErrorNumber::kDeviceIo);
+  if (!CloseHandle(file.release())) Raise(ErrorNumber::kDeviceIo, ::GetLastError());
 }
 
 // A new file beside another one. Unless it is put in that one's place it goes away again.
@@ -154,6 +160,14 @@ LocalTime ToLocalTime(const FILETIME& time) {
   return {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
 }
 
+// Either record of the system has these fields.
+template <typename Data>
+FileStatus StatusIn(const Data& data) {
+  const bool directory = data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+  const std::int64_t length = std::int64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
+  return {data.dwFileAttributes, directory ? 0 : length, ToLocalTime(data.ftLastWriteTime)};
+}
+
 // The attributes and measures of what a name leads to, through links.
 bool Query(const Text& verbatim, WIN32_FILE_ATTRIBUTE_DATA& data) {
   if (!GetFileAttributesExW(Wide(verbatim), GetFileExInfoStandard, &data)) return false;
@@ -171,6 +185,27 @@ bool Query(const Text& verbatim, WIN32_FILE_ATTRIBUTE_DATA& data) {
 }
 
 }  // namespace
+
+OwnedFile OpenSource(const Text& name) {
+  const Unredirected unredirected;
+  return OpenDiskFile(Openable(name), GENERIC_READ, kShareAll, OPEN_EXISTING);
+}
+
+bool StatusOf(void* file, FileStatus& status) {
+  BY_HANDLE_FILE_INFORMATION data;
+  if (!GetFileInformationByHandle(file, &data)) return false;
+  status = StatusIn(data);
+  return true;
+}
+
+std::size_t FileSource::ReadAt(std::uint64_t offset, char* buffer, std::size_t size) {
+  OVERLAPPED place = {};
+  place.Offset = static_cast<DWORD>(offset);
+  place.OffsetHigh = static_cast<DWORD>(offset >> 32);
+  DWORD count = 0;
+  const auto piece = static_cast<DWORD>(std::min(size, kLargestPiece));
+  return ReadFile(file_, buffer, piece, &count, &place) ? count : 0;
+}
 
 // --- Directory search -----------------------------------------------------------------------
 
@@ -199,11 +234,7 @@ bool Win32Platform::GetFileStatus(const Text& name, FileStatus& status) {
   const Text verbatim = VerbatimName(name);
   WIN32_FILE_ATTRIBUTE_DATA data;
   if (verbatim.empty() || !Query(verbatim, data)) return false;
-  const bool directory = data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
-  const std::int64_t length = std::int64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
-  status.attributes = data.dwFileAttributes;
-  status.length = directory ? 0 : length;
-  status.modified = ToLocalTime(data.ftLastWriteTime);
+  status = StatusIn(data);
   return true;
 }
 
@@ -278,7 +309,7 @@ void Win32Platform::DeleteFile(const Text& name) {
   const DWORD code = ::GetLastError();
   const ErrorNumber number = ErrorNumberOf(code);
   if (number == ErrorNumber::kFileNotFound || number == ErrorNumber::kPathNotFound) {
-    throw RuntimeError(ErrorNumber::kFileNotFound);
+    Raise(ErrorNumber::kFileNotFound, kSystemFileNotFound);
   }
   RaiseFor(verbatim, code);
 }

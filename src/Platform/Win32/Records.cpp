@@ -2,6 +2,8 @@
 #include <algorithm>
 
 #include "Platform/Records/ProfileFile.h"
+#include "Platform/Records/VersionResource.h"
+#include "Platform/Win32/FileReads.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Win32Platform.h"
@@ -10,26 +12,20 @@
 namespace trovex {
 namespace {
 
-constexpr std::size_t kSmallestRecord = 6;
+// The file is there, but its contents cannot be had.
+bool IsRefusal(const RuntimeError& error) {
+  return error.Is(ErrorNumber::kPermissionDenied) || error.Is(ErrorNumber::kDeviceIo);
+}
 
-// The record alone: behind it the system leaves room for its own translations, and its first field
-// is its length.
 std::string RecordOf(const Text& name) {
-  const Unredirected unredirected;
-  const Text verbatim = VerbatimName(name);
-  if (verbatim.empty()) return {};
-  // The loader takes a plain name where it can be had.
-  const Text& asked = name.size() < MAX_PATH ? name : verbatim;
-  DWORD ignored = 0;
-  const DWORD size = GetFileVersionInfoSizeW(Wide(asked), &ignored);
-  if (size < kSmallestRecord) return {};
-  std::string block(size, '\0');
-  if (!GetFileVersionInfoW(Wide(asked), 0, size, block.data())) return {};
-  const std::size_t length =
-      static_cast<unsigned char>(block[0]) | static_cast<unsigned char>(block[1]) << 8;
-  if (length < kSmallestRecord || length > size) return {};
-  block.resize(length);
-  return block;
+  try {
+    const OwnedFile file = OpenSource(name);
+    FileSource source(file.get());
+    return records::ReadVersionRecord(source);
+  } catch (const RuntimeError& error) {
+    if (IsRefusal(error)) throw;
+    return {};
+  }
 }
 
 // The system's profile functions know no name of more than 259 characters: such a file is read
@@ -85,6 +81,22 @@ bool Win32Platform::GetFileVersionInfo(const Text& name, std::uint32_t length, s
   if (block.empty()) return false;
   block.resize(length);
   return true;
+}
+
+Reading Win32Platform::GetFileProperties(const Text& name, FileStatus& status,
+                                         std::string& record) {
+  record.clear();
+  try {
+    const OwnedFile file = OpenSource(name);
+    if (!StatusOf(file.get(), status)) return Reading::kNothing;
+    FileSource source(file.get());
+    record = records::ReadVersionRecord(source);
+    return Reading::kAll;
+  } catch (const RuntimeError& error) {
+    // What cannot be opened may have a status all the same.
+    if (!GetFileStatus(name, status)) return Reading::kNothing;
+    return IsRefusal(error) ? Reading::kStatus : Reading::kAll;
+  }
 }
 
 std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const Text& key,

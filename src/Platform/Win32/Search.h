@@ -12,8 +12,8 @@ class Search {
   explicit Search(const Text& pattern);
 
   // The next entry; false, and `data` untouched, at the end or where there is nothing to search.
-  // GetLastError then says why, and nothing is held any more. Raises kDeviceIo where the search
-  // breaks off.
+  // The system's last error then says why, and nothing is held any more. Raises kDeviceIo where the
+  // search breaks off.
   bool Next(FindData& data);
 
  private:

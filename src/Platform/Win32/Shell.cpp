@@ -1,7 +1,9 @@
 // Shell, icons and registry: the real calls.
 #include <algorithm>
 
+#include "Platform/Records/IconResource.h"
 #include "Platform/Win32/CommandLine.h"
+#include "Platform/Win32/FileReads.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/ShortName.h"
@@ -59,6 +61,16 @@ bool StartWithMoreRights(const CommandLine& line, int mode) {
                                 mode)) > 32;
 }
 
+bool HoldsSoundIcon(const Text& file) {
+  try {
+    const OwnedFile opened = OpenSource(file);
+    FileSource source(opened.get());
+    return records::HoldsIcon(source);
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
 bool IsText(DWORD type) {
   return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
 }
@@ -114,8 +126,9 @@ bool Win32Platform::HasHelpEngine() {
   return GetVersionEx(info) && info.dwMajorVersion < kVista;
 }
 
-int Win32Platform::ExtractIconEx(const Text& file, int index) {
+int Win32Platform::ExtractIconEx(const Text& file, int index, IconOwner owner) {
   const Unredirected unredirected;
+  if (owner == IconOwner::kDisc && !HoldsSoundIcon(file)) return 0;
   HICON large = nullptr;
   const ShortName name(file);
   ExtractIconExW(Wide(name.Get()), index, &large, nullptr, 1);

@@ -2,6 +2,7 @@
 #include <chrono>
 #include <memory>
 
+#include "Platform/SystemTexts.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/SystemCalls.h"
@@ -122,25 +123,27 @@ Text Win32Platform::GetCurrentDirectory() {
 
 void Win32Platform::ChangeDirectory(const Text& directory) {
   const Text full = directory.empty() ? Text() : WithoutFinalBackslash(FullName(directory));
-  if (!IsDirectory(full)) throw RuntimeError(ErrorNumber::kPathNotFound);
+  if (!IsDirectory(full))
+    throw RuntimeError::OfSystem(ErrorNumber::kPathNotFound, kSystemPathNotFound);
   const char16_t letter = DriveLetter(full);
   // A network path has no drive: it becomes the current directory, whichever drive was current.
   const bool current = letter == 0 || letter == DriveLetter(CurrentDirectory());
   if (current && !SetCurrentDirectoryW(Wide(full))) {
-    throw RuntimeError(ErrorNumber::kPathNotFound);
+    throw RuntimeError::OfSystem(ErrorNumber::kPathNotFound, kSystemPathNotFound);
   }
   if (letter != 0) SetEnvironmentVariableW(Wide(DirectoryVariable(letter)), Wide(full));
 }
 
 void Win32Platform::ChangeDrive(const Text& drive) {
   const char16_t letter = DriveLetter(drive);
-  if (letter == 0) throw RuntimeError(ErrorNumber::kDeviceUnavailable);
+  if (letter == 0)
+    throw RuntimeError::OfSystem(ErrorNumber::kDeviceUnavailable, kSystemInvalidDrive);
   const Text former = CurrentDirectory();
   if (letter == DriveLetter(former)) return;
   const Text root = {letter, u':', u'\\'};
   const Text kept = GetEnvironmentVariable(DirectoryVariable(letter));
   if ((kept.empty() || !SetCurrentDirectoryW(Wide(kept))) && !SetCurrentDirectoryW(Wide(root))) {
-    throw RuntimeError(ErrorNumber::kDeviceUnavailable);
+    throw RuntimeError::OfSystem(ErrorNumber::kDeviceUnavailable, kSystemInvalidDrive);
   }
   SetEnvironmentVariableW(Wide(DirectoryVariable(DriveLetter(former))), Wide(former));
 }
@@ -157,15 +160,14 @@ void Win32Platform::MessageBeep(std::uint32_t type) {
   ::MessageBeep(type);
 }
 
-std::uint32_t Win32Platform::GetLastError() {
-  return ::GetLastError();
-}
-
+// In another language than the interface's the system's own text is none.
 Text Win32Platform::FormatMessage(std::uint32_t code) {
+  if (const Text own = SystemText(code); !own.empty()) return own;
   wchar_t* text = nullptr;
   const DWORD length = FormatMessageW(
       FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-      nullptr, code, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+      nullptr, code, MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH), reinterpret_cast<wchar_t*>(&text), 0,
+      nullptr);
   const std::unique_ptr<wchar_t, LocalMemory> owned(text);
   return length == 0 ? Text() : FromWide(text);
 }

@@ -32,6 +32,7 @@ class Win32Platform : public Platform {
   bool MakeDirectory(const Text& name) override;
   std::uint32_t GetFileVersionInfoSize(const Text& name) override;
   bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) override;
+  Reading GetFileProperties(const Text& name, FileStatus& status, std::string& record) override;
   std::uint32_t GetPrivateProfileString(const Text& section, const Text& key, const Text& fallback,
                                         Text& buffer, std::uint32_t size,
                                         const Text& file) override;
@@ -53,7 +54,7 @@ class Win32Platform : public Platform {
   int FindExecutable(const Text& file, const Text& directory, Text& buffer) override;
   void StartProgram(const Text& command_line, int mode) override;
   bool HasHelpEngine() override;
-  int ExtractIconEx(const Text& file, int index) override;
+  int ExtractIconEx(const Text& file, int index, IconOwner owner) override;
   long RegCreateKey(RegistryRoot root, const Text& name, RegistryKey& key) override;
   long RegOpenKeyEx(RegistryRoot root, const Text& name, std::uint32_t access,
                     RegistryKey& key) override;
@@ -67,7 +68,6 @@ class Win32Platform : public Platform {
   bool Process32Next(SnapshotHandle snapshot, ProcessEntry& entry) override;
   void CloseHandle(SnapshotHandle snapshot) override;
   void MessageBeep(std::uint32_t type) override;
-  std::uint32_t GetLastError() override;
   Text FormatMessage(std::uint32_t code) override;
   double Random() override;
 

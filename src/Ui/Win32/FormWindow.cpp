@@ -302,8 +302,9 @@ void FormWindow::Run(const Event& reaction) {
   if (abandoned_ || view_.Failed()) return;
   try {
     Raise(reaction);
-  } catch (const RuntimeError& error) {
-    view_.Fail(error);
+  } catch (...) {
+    // Nothing may leave through the system's frames.
+    view_.Fail(std::current_exception());
   }
 }
 

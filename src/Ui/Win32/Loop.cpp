@@ -41,11 +41,11 @@ void Win32View::Leaves(HWND window) {
   }
 }
 
-void Win32View::Fail(const RuntimeError& error) {
+void Win32View::Fail(std::exception_ptr failure) {
   if (failure_) return;
-  failure_ = std::make_exception_ptr(error);
+  failure_ = failure;
   ForgetQuit();
-  if (on_failure) on_failure(error);
+  if (on_failure) on_failure(failure);
   End();
   PostQuitMessage(1);
 }

@@ -408,8 +408,8 @@ void PreviewWindow::PaintSheets(HDC dc, const RECT& area) {
 void PreviewWindow::Run(const std::function<void()>& reaction) {
   try {
     reaction();
-  } catch (const RuntimeError& error) {
-    view_.Fail(error);
+  } catch (...) {
+    view_.Fail(std::current_exception());
     open_ = false;
   }
 }

@@ -21,16 +21,16 @@ class Win32View : public View {
   Win32View();
   ~Win32View() override;
 
-  // Runs until the program ends; rethrows the run-time error that ended it.
+  // Runs until the program ends; rethrows the error that ended it.
   void Run();
   // Ends the loops, the modal ones too.
   void End() { ended_ = true; }
-  // What a run-time error that no handler catches does: the first one is told to the user while
+  // What an error that no handler catches does: the first one is told to the user while
   // everything still stands, and ends the program.
-  void Fail(const RuntimeError& error);
+  void Fail(std::exception_ptr failure);
   bool Failed() const { return failure_ != nullptr; }
   // How the user is told; nothing by default.
-  std::function<void(const RuntimeError&)> on_failure;
+  std::function<void(std::exception_ptr)> on_failure;
 
   Shared& GetShared() { return shared_; }
   PrintMeasure& Measure() { return measure_; }

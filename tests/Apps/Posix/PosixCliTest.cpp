@@ -26,6 +26,36 @@ TEST_F(PosixCliTest, TheDirectoryIsTheRootOfTheDrive) {
   EXPECT_EQ(Catalogue({"--drive", "E", "--start", "E:\\JEUX"})["tables"][1]["rows"].size(), 1u);
 }
 
+TEST_F(PosixCliTest, DirectoriesNamedAsWindowsOwnAreTheDiscsOnAnyDrive) {
+  for (const char* name : {"JEU.EXE", "JEU.TXT", "SYSTEM/SHELL32.DLL", "EXPLORER.EXE"}) {
+    disc_.File(std::string("WINDOWS/") + name, DosExecutable());
+  }
+  disc_.File("WINDOWS/SYSTEM/OUTIL.EXE", DosExecutable());
+  disc_.File("WINDOWS/SYSTEM/OUTIL.TXT", "texte");
+  const auto lists = [&](const char* drive) {
+    std::vector<Json> found;
+    const Json catalogue = Catalogue({"--inspect", "--drive", drive});
+    for (const Json& details : catalogue["tables"][1]["details"]) {
+      found.push_back(details["ListFichier"]);
+    }
+    return found;
+  };
+  EXPECT_EQ(lists("C"), lists("D"));
+  EXPECT_EQ(lists("C").back(), Json::array({"Outil.txt"}));
+}
+
+// The system's library has an icon, so that there is no sign of a program without one.
+TEST_F(PosixCliTest, ATypeThatNothingNamesHasTheSystemsIconAndNoLabel) {
+  disc_.File("WIN95/A.B.EXE", DosExecutable());
+  disc_.File("WIN95/NOM.X.ZIP", ZipArchive(200));
+  const Json tables = Catalogue({"--inspect"})["tables"];
+  for (const int table : {1, 2}) {
+    const Json& boxes = tables[table]["details"][0]["TextInfo"];
+    EXPECT_EQ(boxes[2], "Programme Windows 95") << "the kind by the directory's name";
+    EXPECT_EQ(boxes[4], "");
+  }
+}
+
 TEST_F(PosixCliTest, AStartOnADriveThatIsNotThereIsWrong) {
   ExpectWrong({Argument(), "--drive", "E", "--start", "D:\\"}, "--start D:\\");
 }

@@ -44,10 +44,10 @@ class ShrinkingTest : public LogicTest {
 TEST_F(ShrinkingTest, ATextKeepsWhatWasReadOfIt) {
   disc.File("README.TXT", std::string(10000, 'x') + "\r\nfin");
   ShrinkAfterTheFirstPiece("README.TXT");
-  EXPECT_EQ(sPremiereLigne(u"D:\\README.TXT"), Text(kPiece, u'x'));
+  EXPECT_EQ(TextLines(u"D:\\README.TXT").sPremiereLigne(), Text(kPiece, u'x'));
   disc.File("README.TXT", std::string(10000, 'x') + "\r\nfin");
   ShrinkAfterTheFirstPiece("README.TXT");
-  EXPECT_EQ(sDeuxiemeLigne(u"D:\\README.TXT"), u"");
+  EXPECT_EQ(TextLines(u"D:\\README.TXT").sDeuxiemeLigne(), u"");
   disc.File("README.TXT", "Un\r\n" + std::string(10000, 'x') + "\r\nfin");
   ShrinkAfterTheFirstPiece("README.TXT");
   TextBox box;

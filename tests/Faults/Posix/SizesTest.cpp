@@ -151,7 +151,7 @@ TEST_F(SizesTest, ATableThatIsFullSaysSoForEachFurtherFile) {
     const std::string name = directory + "/F" + std::to_string(100000 + i) + ".ZIP";
     ASSERT_EQ(mknod(name.c_str(), S_IFREG | 0600, 0), 0);
   }
-  const Json catalogue = Catalogue();
+  const Json catalogue = Catalogue(cli::kIncomplete);
   EXPECT_EQ(catalogue["tables"][2]["rows"].size(), static_cast<std::size_t>(kRows));
   EXPECT_EQ(catalogue["messages"].size(), static_cast<std::size_t>(kFiles - kRows));
 }

@@ -4,11 +4,13 @@
 
 #include <cerrno>
 
+#include "Platform/SystemTexts.h"
+
 namespace trovex::test {
 namespace {
 
 using posix::ErrorNumberOf;
-using posix::ErrorText;
+using posix::SystemCodeOf;
 
 TEST(Errors, TheSystemsNumbersBecomeTheProgramsOwn) {
   EXPECT_EQ(ErrorNumberOf(ENOENT), ErrorNumber::kFileNotFound);
@@ -25,9 +27,14 @@ TEST(Errors, TheSystemsNumbersBecomeTheProgramsOwn) {
   EXPECT_EQ(ErrorNumberOf(ESTALE), ErrorNumber::kDeviceIo);
 }
 
-TEST(Errors, TextsAreThoseOfTheSystem) {
-  EXPECT_EQ(ErrorText(ENOENT), u"No such file or directory");
-  EXPECT_NE(ErrorText(123456), u"");
+TEST(Errors, TheSystemsNumbersHaveCodesWithTexts) {
+  for (const int error : {ENOENT, ENOTDIR, EACCES, EISDIR, EROFS, EBUSY, ENOSPC, EFBIG, EMFILE,
+                          ENOMEM, EILSEQ, ENAMETOOLONG, ENODEV, EIO}) {
+    EXPECT_NE(SystemText(SystemCodeOf(error)), u"") << error;
+  }
+  EXPECT_EQ(SystemCodeOf(ENOTDIR), kSystemPathNotFound);
+  EXPECT_EQ(SystemCodeOf(ENXIO), 0u);
+  EXPECT_EQ(SystemText(0), u"");
 }
 
 }  // namespace

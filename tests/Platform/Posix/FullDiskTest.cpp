@@ -17,7 +17,6 @@ TEST_F(FullDisk, AWriteRaises) {
     platform_.Write(file, bytes.data(), bytes.size());
     EXPECT_EQ(ErrorOf([&] { platform_.Write(file, bytes.data(), bytes.size()); }),
               ErrorNumber::kDiskFull);
-    EXPECT_NE(platform_.GetLastError(), 0U);
   }
   platform_.Close(file);
 }
@@ -37,7 +36,6 @@ TEST_F(FullDisk, AProfileFileIsAsItWas) {
   {
     const FileSizeLimit limit(1000);
     EXPECT_FALSE(platform_.WritePrivateProfileString(u"a", u"k", u"deux", u"D:\\A.INI"));
-    EXPECT_NE(platform_.GetLastError(), 0U);
   }
   EXPECT_EQ(Contents(u"D:\\A.INI"), contents);
   EXPECT_THAT(FindAll(u"D:\\*.*"), ElementsAre(u"A.INI"));

@@ -51,6 +51,30 @@ TEST_F(PosixHostTest, TheHostsRootIsAFixedDriveOfAnotherLetter) {
   EXPECT_EQ(last->NameOf("/nulle-part"), u"Y:\\nulle-part");
 }
 
+TEST_F(PosixHostTest, TheStandInForWindowsIsOnNoDriveOfTheDisc) {
+  disc_.File("WINDOWS/SYSTEM/SHELL32.DLL", "texte");
+  disc_.File("WINDOWS/WIN.INI", "[Extensions]\r\ntxt=x\r\n");
+  for (const char16_t drive : {u'C', u'D', u'X', u'Z'}) {
+    const auto host = Open(Path(""), drive);
+    Text directory;
+    host->GetPlatform().GetWindowsDirectory(directory, 50);
+    EXPECT_NE(directory[0], drive);
+    FileStatus status;
+    EXPECT_FALSE(host->GetPlatform().GetFileStatus(directory, status));
+  }
+}
+
+TEST_F(PosixHostTest, TheSystemLibraryHasIcons) {
+  for (const char16_t drive : {u'C', u'D'}) {
+    const auto host = Open(Path(""), drive);
+    Platform& platform = host->GetPlatform();
+    Text directory;
+    platform.GetSystemDirectory(directory, 50);
+    EXPECT_EQ(platform.ExtractIconEx(directory + u"\\shell32.dll", 0, IconOwner::kSystem), 1);
+    EXPECT_EQ(platform.ExtractIconEx(directory + u"\\autre.dll", 0, IconOwner::kSystem), 0);
+  }
+}
+
 TEST_F(PosixHostTest, ArgumentsKeepTheirSpelling) {
   disc_.Directory("Export");
   const auto host = Open(Path(""));

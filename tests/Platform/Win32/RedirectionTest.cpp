@@ -56,7 +56,7 @@ TEST_F(RedirectionTest, IsOffWhileTheDiscIsRead) {
   EXPECT_TRUE(Reads([&] { platform_.Close(platform_.OpenRead(u"D:\\A.EXE")); }));
   EXPECT_TRUE(Reads([&] { platform_.GetFileVersionInfoSize(u"D:\\A.EXE"); }));
   EXPECT_TRUE(Reads([&] { platform_.GetFileProperties(u"D:\\A.EXE", status, block); }));
-  EXPECT_TRUE(Reads([&] { platform_.ExtractIconEx(u"D:\\A.EXE", 0); }));
+  EXPECT_TRUE(Reads([&] { platform_.ExtractIconEx(u"D:\\A.EXE", 0, IconOwner::kSystem); }));
   EXPECT_TRUE(Reads(
       [&] { platform_.GetPrivateProfileString(u"S", u"K", u"", buffer, 255, u"D:\\A.EXE"); }));
   EXPECT_TRUE(Reads([&] { platform_.OpenDirectory(u"D:\\"); }));

@@ -1,6 +1,8 @@
 // Drives, directories and the services of the system.
+#include <functional>
 #include <set>
 
+#include "Platform/Encoding.h"
 #include "Platform/Host.h"
 #include "Platform/contract/Contract.h"
 
@@ -126,12 +128,30 @@ TEST_F(DirectoryContract, AnUnsetEnvironmentVariableIsEmpty) {
 
 // --- Services ---------------------------------------------------------------------------------
 
-TEST_F(DirectoryContract, AFailureLeavesACodeWithAText) {
-  FileStatus status;
-  EXPECT_FALSE(platform_.GetFileStatus(u"D:\\AUTRE.TXT", status));
-  const std::uint32_t code = platform_.GetLastError();
-  EXPECT_NE(code, 0U);
-  EXPECT_NE(platform_.FormatMessage(code), u"");
+TEST_F(DirectoryContract, AFailureBringsTheSystemsCodeAndItsText) {
+  struct Failure {
+    std::function<void()> operation;
+    TextView text;
+  };
+  disc_.Directory("JEUX");
+  const Failure failures[] = {
+      {[&] { platform_.OpenRead(u"D:\\AUTRE.TXT"); }, u"Le fichier n'existe pas à cet endroit."},
+      {[&] { platform_.DeleteFile(u"D:\\AUTRE.TXT"); }, u"Le fichier n'existe pas à cet endroit."},
+      {[&] { platform_.OpenRead(u"D:\\RIEN\\A.TXT"); }, u"Un dossier du chemin n'existe pas."},
+      {[&] { platform_.OpenWrite(u"D:\\RIEN\\A.TXT"); }, u"Un dossier du chemin n'existe pas."},
+      {[&] { platform_.ChangeDirectory(u"D:\\RIEN"); }, u"Un dossier du chemin n'existe pas."},
+      {[&] { platform_.OpenWrite(u"D:\\JEUX"); }, u"L'accès est refusé."},
+      {[&] { platform_.ChangeDrive(u"Q:"); }, u"Ce lecteur n'existe pas."},
+  };
+  for (const Failure& failure : failures) {
+    try {
+      failure.operation();
+      ADD_FAILURE() << ToUtf8(failure.text);
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(platform_.FormatMessage(error.SystemCode()), failure.text);
+    }
+  }
+  EXPECT_EQ(platform_.FormatMessage(0), u"");
 }
 
 TEST_F(DirectoryContract, RandomNumbersLieBetweenZeroAndOne) {

@@ -308,6 +308,11 @@ TEST_F(FileContract, AReadOnlyFileIsNeitherWrittenReplacedNorDeleted) {
   EXPECT_EQ(DeleteError(u"D:\\A.TXT"), ErrorNumber::kPermissionDenied);
   EXPECT_EQ(WriteError(u"D:\\A.TXT"), ErrorNumber::kPermissionDenied);
   EXPECT_EQ(CopyError(u"D:\\B.TXT", u"D:\\A.TXT"), ErrorNumber::kPermissionDenied);
+  try {
+    platform_.OpenWrite(u"D:\\A.TXT");
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(platform_.FormatMessage(error.SystemCode()), u"L'accès est refusé.");
+  }
   EXPECT_EQ(Contents(u"D:\\A.TXT"), "ancien");
   EXPECT_THAT(FindAll(u"D:\\*"), UnorderedElementsAre(u"A.TXT", u"B.TXT"));
 }

@@ -153,6 +153,43 @@ TEST_F(ProfileContract, WhatOthersWriteIsSeen) {
   EXPECT_EQ(Read(u"A", u"x"), u"(rien)");
 }
 
+TEST_F(ProfileContract, ACarriageReturnEndsALineToo) {
+  Profile("[A]\rx=1\ry=2\r[B]\rz=3");
+  EXPECT_EQ(Read(u"A", u"x"), u"1");
+  EXPECT_EQ(Read(u"A", u"y"), u"2");
+  EXPECT_EQ(Read(u"B", u"z"), u"3");
+}
+
+TEST_F(ProfileContract, ALineWithoutEqualsSignIsNoKey) {
+  Profile("[A]\r\nx\r\ny=1\r\nz\r\nz=2\r\n");
+  EXPECT_EQ(Read(u"A", u"x"), u"(rien)");
+  EXPECT_EQ(Read(u"A", u"y"), u"1");
+}
+
+TEST_F(ProfileContract, TheEndMarkOfMsDosIsABlank) {
+  Profile("[A]\r\nx=1\r\ny=mot\x1A\r\n\x1A\r\nz=3\x1A");
+  EXPECT_EQ(Read(u"A", u"x"), u"1");
+  EXPECT_EQ(Read(u"A", u"y"), u"mot");
+  EXPECT_EQ(Read(u"A", u"z"), u"3");
+}
+
+TEST_F(ProfileContract, AFileInUtf16IsReadByItsMark) {
+  Profile(std::string("\xFF\xFE[\0A\0]\0\r\0\n\0x\0=\0\x16\x04\xE9\0\r\0\n\0", 26));
+  EXPECT_EQ(Read(u"A", u"x"), u"\u0416\u00E9");
+  Profile(
+      std::string("\xFE\xFF\0[\0A\0]\0\n\0x\0=\0"
+                  "1\0\n",
+                  18));
+  const bool wine_turns_it_round = CurrentHostSystem() == HostSystem::kWine;
+  EXPECT_EQ(Read(u"A", u"x"), wine_turns_it_round ? u"1" : u"(rien)");
+}
+
+TEST_F(ProfileContract, AFileInUtf16StaysOne) {
+  Profile(std::string("\xFF\xFE[\0A\0]\0\r\0\n\0", 12));
+  EXPECT_EQ(Written(u"A", u"x", u"\u0416"),
+            std::string("\xFF\xFE[\0A\0]\0\r\0\n\0x\0=\0\x16\x04\r\0\n\0", 22));
+}
+
 // --- Reading: where Wine differs ----------------------------------------------------------------
 
 TEST_F(ProfileContract, LettersWithAccentsTakeNoNoticeOfCaseEither) {
@@ -175,6 +212,13 @@ TEST_F(ProfileContract, ASectionEndsAtItsFirstBracket) {
   const bool wine_takes_the_last_bracket = CurrentHostSystem() == HostSystem::kWine;
   EXPECT_EQ(Read(u"A", u"x"), wine_takes_the_last_bracket ? u"(rien)" : u"1");
   EXPECT_EQ(Read(u"A]B", u"x"), wine_takes_the_last_bracket ? u"1" : u"(rien)");
+}
+
+TEST_F(ProfileContract, BlanksInBracketsDoNotCount) {
+  Profile("[ Setup ]\r\nx=1\r\n[\tB]\r\nx=2\r\n");
+  const bool wine_counts_them = CurrentHostSystem() == HostSystem::kWine;
+  EXPECT_EQ(Read(u"Setup", u"x"), wine_counts_them ? u"(rien)" : u"1");
+  EXPECT_EQ(Read(u"B", u"x"), wine_counts_them ? u"(rien)" : u"2");
 }
 
 TEST_F(ProfileContract, ASectionWithoutBracketEndsWithItsLine) {

@@ -1,5 +1,6 @@
 // Version records of executables.
 #include "Platform/contract/Contract.h"
+#include "support/DamagedPrograms.h"
 #include "support/ExecutableBuilder.h"
 
 namespace trovex::test {
@@ -106,23 +107,47 @@ TEST_F(VersionContract, ARecordLongerThanItsResourceIsNone) {
   EXPECT_EQ(SizeOf(PeExecutable(block)), 0U);
 }
 
-// Whatever part of the file is cut away: the record is there whole, or there is none. Only Wine
-// takes the length that a cut record claims, and fills up what is missing.
+// Whatever part of the file is cut away: the record is there whole, or there is none.
 TEST_F(VersionContract, AFileCutShortNeverGivesPartOfARecord) {
-  const bool wine_fills_up = CurrentHostSystem() == HostSystem::kWine;
   const std::string block = VersionBlock8(kStrings);
   for (const std::string& whole : {NeExecutable(block), PeExecutable(block)}) {
-    const std::size_t begin = whole.find(block), end = begin + block.size();
+    const std::size_t end = whole.find(block) + block.size();
     for (std::size_t length = 0; length <= whole.size(); length += 7) {
-      std::string expected = length >= end ? block : "";
-      if (wine_fills_up && length >= begin + 2 && length < end) {
-        expected = block.substr(0, length - begin);
-        expected.resize(block.size());
-      }
       const std::string record = RecordOf(whole.substr(0, length));
-      EXPECT_TRUE(record == expected || (record.empty() && !wine_fills_up)) << length;
+      EXPECT_TRUE(record.empty() || (record == block && length >= end)) << length;
     }
+    EXPECT_EQ(RecordOf(whole), block);
   }
+}
+
+// A record's size was taken for the length of a text once, its address for one inside the file.
+TEST_F(VersionContract, DamagedExecutablesGiveAnAnswer) {
+  for (const DamagedProgram& program : SomeDamagedPrograms()) {
+    const std::string record = RecordOf(program.contents);
+    EXPECT_TRUE(record.empty() || program.contents.find(record) != std::string::npos)
+        << program.path;
+  }
+}
+
+TEST_F(VersionContract, StatusAndRecordComeTogether) {
+  const std::string block = VersionBlock8(kStrings), executable = NeExecutable(block);
+  disc_.File("ESSAI.EXE", executable);
+  disc_.File("NOTES.EXE", "texte");
+  disc_.Directory("JEUX");
+  FileStatus status, expected;
+  std::string record;
+  EXPECT_EQ(platform_.GetFileProperties(u"D:\\ESSAI.EXE", status, record), Reading::kAll);
+  EXPECT_TRUE(platform_.GetFileStatus(u"D:\\ESSAI.EXE", expected));
+  EXPECT_EQ(record, block);
+  EXPECT_EQ(status.length, static_cast<std::int64_t>(executable.size()));
+  EXPECT_EQ(status.modified, expected.modified);
+  EXPECT_EQ(status.attributes, expected.attributes);
+  EXPECT_EQ(platform_.GetFileProperties(u"D:\\NOTES.EXE", status, record), Reading::kAll);
+  EXPECT_EQ(record, "");
+  EXPECT_EQ(platform_.GetFileProperties(u"D:\\JEUX", status, record), Reading::kAll);
+  EXPECT_EQ(status.attributes & kAttributeDirectory, kAttributeDirectory);
+  EXPECT_EQ(platform_.GetFileProperties(u"D:\\AUTRE.EXE", status, record), Reading::kNothing);
+  EXPECT_EQ(platform_.GetFileProperties({}, status, record), Reading::kNothing);
 }
 
 TEST_F(VersionContract, ARewrittenFileShowsItsNewRecord) {

@@ -255,10 +255,10 @@ TEST_F(FormWindowTest, AnUncaughtErrorIsToldWhileTheFormStillStands) {
   Show();
   int told = 0, later = 0;
   bool stood = false;
-  view.on_failure = [&](const RuntimeError& error) {
+  view.on_failure = [&](std::exception_ptr failure) {
     ++told;
     stood = IsWindowVisible(FormHandle()) && TheForm().Loaded();
-    EXPECT_EQ(error.Number(), static_cast<int>(ErrorNumber::kPathNotFound));
+    EXPECT_THROW(std::rethrow_exception(failure), RuntimeError);
     SendMessageW(Handle(B(1)), BM_CLICK, 0, 0);
   };
   B(0).on_click = [] { throw RuntimeError(ErrorNumber::kPathNotFound, u"essai"); };

@@ -1,4 +1,4 @@
-// A file in memory, as the readers of records see it.
+// A file in memory for the readers of records.
 #pragma once
 
 #include <algorithm>
@@ -6,10 +6,11 @@
 #include <limits>
 #include <string_view>
 
-#include "Platform/Records/ByteReader.h"
+#include "Platform/Records/ByteSource.h"
 
-namespace trovex::fuzz {
+namespace trovex::test {
 
+// Counts how often and how much it is read. The bytes must outlive it.
 class MemorySource : public records::ByteSource {
  public:
   // Gives at most `piece` bytes at a time.
@@ -22,14 +23,16 @@ class MemorySource : public records::ByteSource {
     if (offset >= bytes_.size()) return 0;
     size = std::min({size, piece_, bytes_.size() - static_cast<std::size_t>(offset)});
     std::memcpy(buffer, bytes_.data() + offset, size);
+    total += size;
     return size;
   }
 
   int reads = 0;
+  std::size_t total = 0;
 
  private:
   std::string_view bytes_;
   std::size_t piece_;
 };
 
-}  // namespace trovex::fuzz
+}  // namespace trovex::test

@@ -1,0 +1,101 @@
+#include "Platform/Records/IconResource.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "support/DamagedPrograms.h"
+#include "support/ExecutableBuilder.h"
+#include "support/MemorySource.h"
+
+namespace trovex::test {
+namespace {
+
+bool Holds(std::string_view file) {
+  MemorySource source(file);
+  return records::HoldsIcon(source);
+}
+
+std::vector<std::string> Samples() {
+  return {NeExecutable({}, Icon::kPresent), PeExecutable({}, Icon::kPresent), IconFile()};
+}
+
+void SetNumber(std::string& file, std::size_t at, std::uint32_t number, std::size_t size) {
+  std::memcpy(file.data() + at, &number, size);
+}
+
+// Where the one image of a sample begins: a head of 40 bytes, 32 pixels wide.
+std::size_t ImageIn(const std::string& file) {
+  return file.find(std::string("\x28\0\0\0\x20\0\0\0", 8));
+}
+
+TEST(IconResource, SoundIconsAreFound) {
+  for (const std::string& sample : Samples()) EXPECT_TRUE(Holds(sample));
+}
+
+TEST(IconResource, AnIconWithoutItsMaskIsFound) {
+  std::string file = IconFile();
+  const std::uint32_t mask = 32 * 32 / 8;
+  SetNumber(file, 14, static_cast<std::uint32_t>(file.size()) - 22 - mask, 4);
+  EXPECT_TRUE(Holds(file.substr(0, file.size() - mask)));
+  EXPECT_FALSE(Holds(file.substr(0, file.size() - mask - 1)));
+}
+
+TEST(IconResource, AHeadThatNoBitmapHasIsNone) {
+  struct Field {
+    std::size_t at, size;
+    std::uint32_t value;
+  };
+  const Field fields[] = {
+      {0, 4, 12},      // another form of head
+      {4, 4, 0},       // width
+      {4, 4, 1025},    // width
+      {8, 4, 0},       // height
+      {8, 4, 4096},    // height
+      {12, 2, 2},      // planes
+      {14, 2, 3},      // bits a pixel
+      {14, 2, 32},     // more bits than there are
+      {16, 4, 1},      // compressed
+      {32, 4, 100000}  // colours of the palette
+  };
+  for (const std::string& sample : Samples()) {
+    for (const Field& field : fields) {
+      std::string file = sample;
+      SetNumber(file, ImageIn(file) + field.at, field.value, field.size);
+      EXPECT_FALSE(Holds(file)) << field.at << ' ' << field.value;
+    }
+  }
+}
+
+TEST(IconResource, AnImageThatIsMissingIsNone) {
+  std::string file = IconFile();
+  SetNumber(file, 4, 2, 2);  // a second image, whose entry is the first one's bytes
+  EXPECT_FALSE(Holds(file));
+  SetNumber(file, 4, 65, 2);
+  EXPECT_FALSE(Holds(file));
+  file = PeExecutable({}, Icon::kPresent);
+  const std::size_t group = file.find(std::string("\0\0\1\0\1\0\x20\x20", 8));
+  SetNumber(file, group + 18, 2, 2);  // the image's number
+  EXPECT_FALSE(Holds(file));
+}
+
+TEST(IconResource, EveryDamageGivesABoundedAnswer) {
+  for (const DamagedProgram& program : DamagedPrograms()) {
+    MemorySource source(program.contents);
+    records::HoldsIcon(source);
+    ASSERT_LE(source.reads, 2500) << program.path;
+  }
+  std::mt19937 random(1998);
+  for (const std::string& sample : Samples()) {
+    for (int round = 0; round < 5000; ++round) {
+      std::string file = sample;
+      for (int i = 0; i < 4; ++i) file[random() % file.size()] = static_cast<char>(random());
+      MemorySource source(file);
+      records::HoldsIcon(source);
+      ASSERT_LE(source.reads, 2500) << round;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace trovex::test
