@@ -14,7 +14,7 @@ namespace {
 
 // The file is there, but its contents cannot be had.
 bool IsRefusal(const RuntimeError& error) {
-  return error.Is(ErrorNumber::kPermissionDenied) || error.Is(ErrorNumber::kDeviceIo);
+  return error.Kind() == ErrorNumber::kPermissionDenied || error.Kind() == ErrorNumber::kDeviceIo;
 }
 
 std::string RecordOf(const Text& name) {

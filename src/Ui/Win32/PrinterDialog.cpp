@@ -9,7 +9,8 @@ constexpr TextView kDriver = u"winspool";
 
 // The record in which the dialog is told a printer by its name.
 HGLOBAL NamesOf(const Text& printer) {
-  const Text texts = Text(kDriver) + u'\0' + printer + u'\0' + u'\0';
+  const Text end(1, u'\0');
+  const Text texts = Text(kDriver) + end + printer + end + end;
   constexpr std::size_t kBegin = sizeof(DEVNAMES) / sizeof(wchar_t);
   const HGLOBAL memory = GlobalAlloc(GHND, sizeof(DEVNAMES) + texts.size() * sizeof(char16_t));
   if (memory == nullptr) return nullptr;
