@@ -112,9 +112,8 @@ class PrintingTest : public ::testing::Test {
   }
 
   void Print() {
-    const Preview preview = {document_, u"Trovex", texts_, {}, [this](const Text& failure) {
-                               failures_.push_back(failure);
-                             }};
+    const auto fail = [this](const Text& failure) { failures_.push_back(failure); };
+    const Preview preview = {document_, true, u"Trovex", texts_, {}, fail};
     PrintPages(owner_, preview, fonts_, measure_);
   }
   static HWND Box() { return FindWindowW(L"TrovexPrinting", nullptr); }
