@@ -16,14 +16,18 @@ Text ModuleName() {
   return name;
 }
 
-// The child: its name and error mode go into a file beside it.
-TEST(StartedChild, DISABLED_Reports) {
-  const Text report = ModuleName() + u"\n" + Decimal(static_cast<int>(SetErrorMode(0)));
+void WriteReport(const Text& report) {
   const OwnedFile file = OwnFile(CreateFileW(L"D:\\RAPPORT.TXT", GENERIC_WRITE, 0, nullptr,
                                              CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   DWORD written = 0;
   WriteFile(file.get(), report.data(), static_cast<DWORD>(report.size() * sizeof(char16_t)),
             &written, nullptr);
+}
+
+// The child: its name, its error mode and the number of its process go into a file beside it.
+TEST(StartedChild, DISABLED_Reports) {
+  WriteReport(ModuleName() + u"\n" + Decimal(static_cast<int>(SetErrorMode(0))) + u"\n" +
+              Decimal(static_cast<int>(GetCurrentProcessId())));
   const OwnedFile event = OwnFile(OpenEventW(EVENT_MODIFY_STATE, FALSE, kEvent));
   SetEvent(event.get());
 }
@@ -37,7 +41,18 @@ class StartedProgramTest : public Contract {
     constexpr DWORD kLongest = 60000;  // milliseconds
     if (WaitForSingleObject(event.get(), kLongest) != WAIT_OBJECT_0) return u"rien";
     const std::string bytes = Contents(u"D:\\RAPPORT.TXT");
-    return Text(reinterpret_cast<const char16_t*>(bytes.data()), bytes.size() / sizeof(char16_t));
+    const Text report(reinterpret_cast<const char16_t*>(bytes.data()),
+                      bytes.size() / sizeof(char16_t));
+    const std::size_t end = report.rfind(u'\n');
+    WaitForEnd(report.substr(end + 1));
+    return report.substr(0, end);
+  }
+  // Until then its file cannot be removed.
+  static void WaitForEnd(const Text& process_number) {
+    DWORD number = 0;
+    for (const char16_t digit : process_number) number = number * 10 + (digit - u'0');
+    const OwnedFile process = OwnFile(OpenProcess(SYNCHRONIZE, FALSE, number));
+    if (process) WaitForSingleObject(process.get(), INFINITE);
   }
   void CopyChild(const Text& name) { ASSERT_TRUE(CopyFileW(Wide(ModuleName()), Wide(name), TRUE)); }
 };
