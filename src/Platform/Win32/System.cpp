@@ -162,6 +162,7 @@ void Win32Platform::MessageBeep(std::uint32_t type) {
 
 // In another language than the interface's the system's own text is none.
 Text Win32Platform::FormatMessage(std::uint32_t code) {
+  if (code == 0) return {};  // the system has a text for success
   if (const Text own = SystemText(code); !own.empty()) return own;
   wchar_t* text = nullptr;
   const DWORD length = FormatMessageW(

@@ -7,9 +7,9 @@
 namespace trovex::test {
 namespace {
 
-class ChangedDiscTest : public WindowTest {
+class ChangedDiscWindowTest : public WindowTest {
  protected:
-  ChangedDiscTest() {
+  ChangedDiscWindowTest() {
     Main(form);
     form.ListeRepertoire.SetPath(u"D:\\Archives");
     Rest();
@@ -40,7 +40,7 @@ class ChangedDiscTest : public WindowTest {
   MainForm form;
 };
 
-TEST_F(ChangedDiscTest, IsShownWhenADeviceComes) {
+TEST_F(ChangedDiscWindowTest, IsShownWhenADeviceComes) {
   EXPECT_EQ(Drive(), u"d: [GRENIER]");
   EXPECT_FALSE(Lists(L"Zoo"));
   ChangeTheDisc();
@@ -49,7 +49,7 @@ TEST_F(ChangedDiscTest, IsShownWhenADeviceComes) {
   ExpectTheNewDisc();
 }
 
-TEST_F(ChangedDiscTest, IsShownWhenTheDriveListDropsDown) {
+TEST_F(ChangedDiscWindowTest, IsShownWhenTheDriveListDropsDown) {
   ChangeTheDisc();
   Ask(form.ListeDrive, CB_SHOWDROPDOWN, TRUE);
   ExpectTheNewDisc();
@@ -57,7 +57,7 @@ TEST_F(ChangedDiscTest, IsShownWhenTheDriveListDropsDown) {
   Rest();
 }
 
-TEST_F(ChangedDiscTest, IsShownWhenTheUserComesBackToTheWindow) {
+TEST_F(ChangedDiscWindowTest, IsShownWhenTheUserComesBackToTheWindow) {
   const HWND other = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100,
                                      100, nullptr, nullptr, nullptr, nullptr);
   SetActiveWindow(other);
@@ -69,7 +69,7 @@ TEST_F(ChangedDiscTest, IsShownWhenTheUserComesBackToTheWindow) {
   DestroyWindow(other);
 }
 
-TEST_F(ChangedDiscTest, ADirectoryThatHasGoneIsNotScannedAndTheStatusLineSaysSo) {
+TEST_F(ChangedDiscWindowTest, ADirectoryThatHasGoneIsNotScannedAndTheStatusLineSaysSo) {
   form.ListeRepertoire.SetPath(u"D:\\");
   Push(form.Explorer);
   const int rows = form.GridLogiciel(1).Rows();
