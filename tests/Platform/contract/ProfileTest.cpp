@@ -174,7 +174,7 @@ TEST_F(ProfileContract, TheEndMarkOfMsDosIsABlank) {
 }
 
 TEST_F(ProfileContract, AFileInUtf16IsReadByItsMark) {
-  Profile(std::string("\xFF\xFE[\0A\0]\0\r\0\n\0x\0=\0\x16\x04\xE9\0\r\0\n\0", 26));
+  Profile(std::string("\xFF\xFE[\0A\0]\0\r\0\n\0x\0=\0\x16\x04\xE9\0\r\0\n\0", 24));
   EXPECT_EQ(Read(u"A", u"x"), u"\u0416\u00E9");
   Profile(
       std::string("\xFE\xFF\0[\0A\0]\0\n\0x\0=\0"
