@@ -27,8 +27,8 @@ class OpenFile {
   bool IsOutput() const { return mode_ == Mode::kOutput; }
 
   bool AtEnd() {
-    if (place_ == buffer_.size()) Fill();
-    return buffer_.empty();
+    if (place_ == buffer_.size() && !ended_) Fill();
+    return place_ == buffer_.size();
   }
 
   // What is left of the line in hand, at most `longest` bytes; the rest and the end stay.
@@ -78,6 +78,7 @@ class OpenFile {
       throw;
     }
     buffer_.resize(size);
+    ended_ = size < kPiece;
   }
 
   // Where the line in hand ends within the buffer.
@@ -111,6 +112,7 @@ class OpenFile {
   FileHandle handle_;
   std::string buffer_;  // what was read and not yet given, or what is still to be written
   std::size_t place_ = 0;
+  bool ended_ = false;  // the file holds no more than the buffer
 };
 
 std::map<int, OpenFile>& Files() {

@@ -1,5 +1,6 @@
 #include "Platform/Encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -68,9 +69,12 @@ void Append(std::string& bytes, char32_t point) {
 enum class LoneSurrogate { kByte, kReplacement };
 
 std::string Encode(TextView text, LoneSurrogate lone) {
+  const auto plain =
+      std::find_if(text.begin(), text.end(), [](char16_t unit) { return unit >= 0x80; });
   std::string bytes;
   bytes.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  bytes.assign(text.begin(), plain);
+  for (std::size_t i = bytes.size(); i < text.size(); ++i) {
     const char16_t unit = text[i];
     if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
       Append(bytes, 0x10000 + ((unit - 0xD800u) << 10) + (text[++i] - 0xDC00u));

@@ -56,13 +56,13 @@ bool MatchesPattern(TextView name, TextView pattern) {
 NamePattern::NamePattern(TextView pattern) : kind_(Kind::kOther), text_(pattern) {
   if (pattern == u"*" || pattern == u"*.*") {
     kind_ = Kind::kAll;
-  } else if (pattern.starts_with(u'*') && !HasWildcard(pattern.substr(1))) {
+  } else if (pattern.size() > 1 && pattern.front() == u'*' && !HasWildcard(pattern.substr(1))) {
     kind_ = Kind::kEnd;
     text_ = ToUpper(pattern.substr(1));
   }
 }
 
-bool NamePattern::Matches(TextView name) const {
+bool NamePattern::MatchesWhole(TextView name) const {
   if (kind_ == Kind::kAll) return true;
   if (kind_ == Kind::kOther) return MatchesPattern(name, text_);
   return name.size() >= text_.size() &&

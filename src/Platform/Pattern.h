@@ -15,10 +15,16 @@ class NamePattern {
  public:
   explicit NamePattern(TextView pattern);
   // As MatchesPattern.
-  bool Matches(TextView name) const;
+  bool Matches(TextView name) const {
+    // Most names are none of what a list shows: a last character of another kind tells.
+    if (kind_ == Kind::kEnd && (name.empty() || ToUpper(name.back()) != text_.back())) return false;
+    return MatchesWhole(name);
+  }
 
  private:
   enum class Kind { kAll, kEnd, kOther };
+
+  bool MatchesWhole(TextView name) const;
 
   Kind kind_;
   Text text_;  // the pattern; of a kEnd ("*.exe") the upper-cased end

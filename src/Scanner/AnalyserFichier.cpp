@@ -60,6 +60,7 @@ class Analysis {
  private:
   const Text& Current() const { return grid_.GetText(); }
   void Put(TextView sTexte) { grid_.SetText(sTexte); }
+  void Put(Text&& sTexte) { grid_.TakeText(std::move(sTexte)); }
   bool IsArchive() const { return bArchive_; }
 
   // An archive shows its size, whatever its description: that is looked for only where a file
@@ -104,7 +105,7 @@ class Analysis {
   void RejectBootstrapper() {
     for (StringId worthless :
          {StringId::kProgrammeAmorcage, StringId::kMsSetup, StringId::kPasDeVersion}) {
-      if (Current().find(ResString(worthless)) != Text::npos) return Put({});
+      if (Current().find(ResString(worthless)) != Text::npos) return Put(Text());
     }
   }
 
@@ -157,7 +158,7 @@ class Analysis {
     grid_.SetCol(kColDescription);
     for (const char16_t sign : {u'*', u'#', u'-', u'=', u'_'}) {
       const Text& line = Current();
-      if (std::search_n(line.begin(), line.end(), kDecoration, sign) != line.end()) Put({});
+      if (std::search_n(line.begin(), line.end(), kDecoration, sign) != line.end()) Put(Text());
     }
   }
 

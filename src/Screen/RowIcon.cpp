@@ -20,7 +20,6 @@ int iEntier(TextView sTexte) {
   return static_cast<int>(value);
 }
 
-// The icon at `index` of a file; an empty picture where there is none.
 // The icon at `index` of a file that the system or its registry names; an empty picture where there
 // is none.
 Picture IconOf(const Text& sFichier, int index) {

@@ -68,12 +68,21 @@ void Grid::SetCol(int col) {
 
 void Grid::SetText(TextView text) {
   text = text.substr(0, text.find(u'\0'));
-  Text& cell = cells_[Offset(row_, col_)];
-  if (col_ == counted_col_ && row_ >= fixed_rows_) {
-    free_cells_ += static_cast<int>(IsFree(text)) - static_cast<int>(IsFree(cell));
-  }
-  cell = text;
+  CountChange(text);
+  cells_[Offset(row_, col_)] = text;
   Notify(Property::kCell);
+}
+
+void Grid::TakeText(Text&& text) {
+  if (const std::size_t end = text.find(u'\0'); end != Text::npos) text.resize(end);
+  CountChange(text);
+  cells_[Offset(row_, col_)] = std::move(text);
+  Notify(Property::kCell);
+}
+
+void Grid::CountChange(TextView text) {
+  if (col_ != counted_col_ || row_ < fixed_rows_) return;
+  free_cells_ += static_cast<int>(IsFree(text)) - static_cast<int>(IsFree(GetText()));
 }
 
 void Grid::AddItem(TextView text) {

@@ -32,8 +32,9 @@ class Grid : public Control {
   void SetRow(int row);
   void SetCol(int col);
   const Text& GetText() const { return cells_[Offset(row_, col_)]; }
-  // A cell ends at its first NUL.
+  // A cell ends at its first NUL. TakeText keeps the text itself where SetText copies it.
   void SetText(TextView text);
+  void TakeText(Text&& text);
   // For a view that draws: the cell without moving the current one.
   const Text& Cell(int row, int col) const { return cells_[Offset(row, col)]; }
 
@@ -80,6 +81,7 @@ class Grid : public Control {
            static_cast<std::size_t>(col);
   }
   int CountFree(int col) const;
+  void CountChange(TextView text);
   void StopCounting() { counted_col_ = -1; }
 
   int rows_ = 2, cols_ = 4, fixed_rows_ = 1, fixed_cols_ = 0;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "Platform/Encoding.h"
 
 namespace trovex::test {
@@ -64,6 +66,22 @@ TEST(NamePattern, MatchesAsThePatternItself) {
       EXPECT_EQ(compiled.Matches(name), MatchesPattern(name, pattern))
           << ToUtf8(pattern) << " " << ToUtf8(name);
     }
+  }
+}
+
+TEST(NamePattern, MatchesRandomNamesAsThePatternItself) {
+  std::mt19937 random(17);
+  const TextView units = u"aAéÉ.eEжЖ日ßÿ*?";
+  const auto text = [&](std::size_t alphabet) {
+    Text result;
+    for (std::size_t size = random() % 6; size > 0; --size) result += units[random() % alphabet];
+    return result;
+  };
+  for (int round = 0; round < 20000; ++round) {
+    const Text pattern = (random() % 2 == 0 ? u"*" : u"") + text(units.size());
+    const Text name = text(units.size() - 2);
+    ASSERT_EQ(NamePattern(pattern).Matches(name), MatchesPattern(name, pattern))
+        << ToUtf8(pattern) << " " << ToUtf8(name);
   }
 }
 

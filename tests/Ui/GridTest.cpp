@@ -64,6 +64,8 @@ TEST(GridTest, ACellEndsAtItsFirstNul) {
   EXPECT_EQ(grid.GetText(), u"Jeu");
   grid.AddItem(TextView(u"un\0deux\ttrois\0", 14));
   EXPECT_THAT(Cells(grid, 2), ElementsAre(u"un", u"trois", u"", u""));
+  grid.TakeText(Text(u"Jeu\0pris", 8));
+  EXPECT_EQ(grid.GetText(), u"Jeu");
 }
 
 TEST(GridTest, AddItemAppendsARowWhoseCellsTabsSeparate) {
@@ -236,6 +238,17 @@ TEST_F(FreeCellsTest, FollowTheTextOfCells) {
   grid_.SetCol(1);
   grid_.SetText(u"");
   EXPECT_EQ(grid_.FreeCells(2), 2) << "another column does not count";
+}
+
+TEST_F(FreeCellsTest, FollowTextThatIsTaken) {
+  grid_.SetCol(2);
+  grid_.SetRow(1);
+  ASSERT_EQ(grid_.FreeCells(2), 2);
+  grid_.TakeText(u"un texte qui ne tient pas dans la cellule");
+  EXPECT_EQ(grid_.GetText(), u"un texte qui ne tient pas dans la cellule");
+  EXPECT_EQ(grid_.FreeCells(2), Counted(2));
+  grid_.TakeText(Text(u"\0reste", 6));
+  EXPECT_EQ(grid_.FreeCells(2), Counted(2));
 }
 
 TEST_F(FreeCellsTest, LeaveTheTitleRowOut) {

@@ -1,19 +1,11 @@
-#include <nlohmann/json.hpp>
-
 #include "Apps/trovex-cli/Catalogue.h"
-#include "Platform/Encoding.h"
+#include "Apps/trovex-cli/JsonText.h"
 
-// Objects are built one by one and joined as text: the memory of a whole tree of values would be
-// many times that of what they say.
+// Everything is joined as text: the memory of a whole tree of values would be many times that of
+// what they say, and so would the time.
 
 namespace trovex::cli {
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-std::string Dump(TextView text) {
-  return Json(ToStrictUtf8(text)).dump();
-}
 
 // `count` elements behind each other, as a JSON array.
 template <typename Element>
@@ -27,7 +19,7 @@ std::string ArrayOf(int count, Element element) {
 }
 
 std::string RowOf(const Grid& grid, int row) {
-  return ArrayOf(grid.Cols(), [&](int col) { return Dump(grid.Cell(row, col)); });
+  return ArrayOf(grid.Cols(), [&](int col) { return Quoted(grid.Cell(row, col)); });
 }
 
 std::string TableOf(const Grid& grid, const std::vector<std::string>* details) {
@@ -55,27 +47,28 @@ const char* KindOf(BoxStyle style) {
 }
 
 std::string MessageOf(const Box& box) {
-  const Json message = {{"kind", KindOf(box.style)},
-                        {"title", ToStrictUtf8(box.title)},
-                        {"text", ToStrictUtf8(box.text)}};
-  return message.dump();
+  return std::string(R"({"kind":")") + KindOf(box.style) + R"(","title":)" + Quoted(box.title) +
+         R"(,"text":)" + Quoted(box.text) + "}";
+}
+
+const char* Dump(bool value) {
+  return value ? "true" : "false";
 }
 
 std::string DetailsOf(MainForm& form) {
-  Json details = {{"TextInfo", Json::array()}, {"ListFichier", Json::array()}};
-  for (int i = 0; i <= 5; ++i) {
-    details["TextInfo"].push_back(ToStrictUtf8(form.TextInfo(i).GetText()));
-  }
-  for (int i = 0; i < form.ListFichier.ListCount(); ++i) {
-    details["ListFichier"].push_back(ToStrictUtf8(form.ListFichier.List(i)));
-  }
-  details["ListFichier.Tag"] = ToStrictUtf8(form.ListFichier.Tag());
-  details["ListIndex"] = form.ListFichier.ListIndex();
-  details["visible"] = {{"TextInfo0", form.TextInfo(0).Visible()},
-                        {"LabelInfo2", form.LabelInfo(2).Visible()},
-                        {"PrintTexte", form.PrintTexte.Visible()},
-                        {"ImageSelect", form.ImageSelect.Visible()}};
-  return details.dump();
+  constexpr int kTexts = 6;
+  const ListBox& list = form.ListFichier;
+  std::string details = R"({"TextInfo":)";
+  details += ArrayOf(kTexts, [&](int i) { return Quoted(form.TextInfo(i).GetText()); });
+  details += R"(,"ListFichier":)";
+  details += ArrayOf(list.ListCount(), [&](int i) { return Quoted(list.List(i)); });
+  details += R"(,"ListFichier.Tag":)" + Quoted(list.Tag());
+  details += R"(,"ListIndex":)" + std::to_string(list.ListIndex());
+  details += std::string(R"(,"visible":{"TextInfo0":)") + Dump(form.TextInfo(0).Visible());
+  details += std::string(R"(,"LabelInfo2":)") + Dump(form.LabelInfo(2).Visible());
+  details += std::string(R"(,"PrintTexte":)") + Dump(form.PrintTexte.Visible());
+  details += std::string(R"(,"ImageSelect":)") + Dump(form.ImageSelect.Visible());
+  return details + "}}";
 }
 
 }  // namespace
@@ -99,9 +92,9 @@ Inspection InspectRows(MainForm& form) {
 
 std::string ToJson(MainForm& form, const Text& start, const Inspection* inspection,
                    const std::vector<Box>& boxes, const std::vector<Text>& unread) {
-  std::string json = R"({"start":)" + Dump(start);
+  std::string json = R"({"start":)" + Quoted(start);
   json += R"(,"tab":)" + std::to_string(form.ZoneDesTableaux.Tab());
-  json += R"(,"count":)" + Dump(form.TextInfo(6).GetText()) + R"(,"tables":)";
+  json += R"(,"count":)" + Quoted(form.TextInfo(6).GetText()) + R"(,"tables":)";
   json += ArrayOf(kTableCount, [&](int i) {
     const auto* details = inspection ? &(*inspection)[static_cast<std::size_t>(i)] : nullptr;
     return TableOf(form.GridLogiciel(i), details);
@@ -112,7 +105,7 @@ std::string ToJson(MainForm& form, const Text& start, const Inspection* inspecti
   if (!unread.empty()) {
     json += R"(,"unread":)";
     json += ArrayOf(static_cast<int>(unread.size()),
-                    [&](int i) { return Dump(unread[static_cast<std::size_t>(i)]); });
+                    [&](int i) { return Quoted(unread[static_cast<std::size_t>(i)]); });
   }
   return json + "}\n";
 }
