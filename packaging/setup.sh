@@ -23,7 +23,7 @@ packages_windows_of_wine=(libxcursor1 libxi6 libxrandr2 libxrender1 libxfixes3 l
 packages_wine=(wine64 xvfb "${packages_windows_of_wine[@]}")
 # Those in the i386 root of packaging/wine-root.
 packages_wine32=(wine wine32 "${packages_windows_of_wine[@]}")
-packages_checks=(python3 clang-format-14 poppler-utils)
+packages_checks=(python3 clang-format-14 poppler-utils genisoimage xorriso)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_pictures=(xdotool imagemagick)
 packages_browser=(chromium)

@@ -6,8 +6,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 
+#include "Platform/Records/ByteSource.h"
 #include "Platform/RuntimeError.h"
 #include "Platform/Text.h"
 
@@ -95,6 +97,17 @@ class FilePort {
   // Raises kDiskFull or kDeviceIo where earlier writes turn out to have failed; the handle is
   // closed all the same. kInvalid does no harm.
   virtual void Close(FileHandle file) = 0;
+
+  // The bytes of a file at any offset, open for as long as the result lives; null where OpenRead
+  // would raise.
+  virtual std::unique_ptr<records::ByteSource> OpenSource(const Text& name) = 0;
+  // True for a name on a drive that shows a disc image: only the program itself can read what lies
+  // there, so no other one can be started with it.
+  virtual bool IsInsideImage(const Text& name);
+
+  // Local time of a moment, in seconds since 1970 began in Greenwich, as GetFileStatus gives that
+  // of a file. Times outside the years 1601 to 9999 become the nearest of them.
+  virtual LocalTime LocalTimeOf(std::int64_t moment) = 0;
 
   // Copies contents over an existing or to a new file. Raises as OpenRead, OpenWrite and Write. A
   // copy that fails in the middle leaves no destination behind.

@@ -31,6 +31,11 @@ class ForwardingFiles : public virtual FilePort {
     target_.Write(file, data, size);
   }
   void Close(FileHandle file) override { target_.Close(file); }
+  std::unique_ptr<records::ByteSource> OpenSource(const Text& name) override {
+    return target_.OpenSource(name);
+  }
+  bool IsInsideImage(const Text& name) override { return target_.IsInsideImage(name); }
+  LocalTime LocalTimeOf(std::int64_t moment) override { return target_.LocalTimeOf(moment); }
   void CopyFile(const Text& source, const Text& destination) override {
     target_.CopyFile(source, destination);
   }

@@ -35,4 +35,8 @@ class Host {
 std::unique_ptr<Host> OpenHost(const std::string& directory, char16_t drive,
                                std::string& complaint);
 
+// The host without a directory of its own, for a disc that is read otherwise and will be `drive`;
+// where it starts means nothing.
+std::unique_ptr<Host> OpenHostWithoutDisc(char16_t drive);
+
 }  // namespace trovex

@@ -2,19 +2,11 @@
 #include <algorithm>
 #include <vector>
 
+#include "Platform/EntryNames.h"
 #include "Platform/HeldDirectory.h"
 
 namespace trovex {
 namespace {
-
-int Compare(TextView a, TextView b) {
-  const std::size_t size = std::min(a.size(), b.size());
-  for (std::size_t i = 0; i < size; ++i) {
-    const char16_t x = ToUpper(a[i]), y = ToUpper(b[i]);
-    if (x != y) return x < y ? -1 : 1;
-  }
-  return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
-}
 
 // Entries in the order of their coming, their names in one piece.
 class FoundEntries : public DirectoryEntries {
@@ -29,7 +21,7 @@ class FoundEntries : public DirectoryEntries {
     sorted_.resize(entries_.size());
     for (std::size_t i = 0; i < sorted_.size(); ++i) sorted_[i] = i;
     std::sort(sorted_.begin(), sorted_.end(),
-              [&](std::size_t a, std::size_t b) { return Compare(Name(a), Name(b)) < 0; });
+              [&](std::size_t a, std::size_t b) { return CompareNoCase(Name(a), Name(b)) < 0; });
   }
 
   bool Next(std::size_t& place, ListedEntry& entry) const override {
@@ -41,8 +33,8 @@ class FoundEntries : public DirectoryEntries {
   bool Find(TextView name, ListedEntry& entry) const override {
     const auto found = std::lower_bound(
         sorted_.begin(), sorted_.end(), name,
-        [&](std::size_t i, TextView wanted) { return Compare(Name(i), wanted) < 0; });
-    if (found == sorted_.end() || Compare(Name(*found), name) != 0) return false;
+        [&](std::size_t i, TextView wanted) { return CompareNoCase(Name(i), wanted) < 0; });
+    if (found == sorted_.end() || CompareNoCase(Name(*found), name) != 0) return false;
     entry = At(*found);
     return true;
   }

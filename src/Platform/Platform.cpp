@@ -22,6 +22,10 @@ Reading FilePort::GetFileProperties(const Text& name, FileStatus& status, std::s
   return Reading::kAll;
 }
 
+bool FilePort::IsInsideImage(const Text&) {
+  return false;
+}
+
 Platform& CurrentPlatform() {
   assert(current_platform != nullptr);
   return *current_platform;

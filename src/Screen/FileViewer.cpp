@@ -7,6 +7,7 @@
 #include "Lib/LIB_SHELL.h"
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
+#include "Screen/DiscImages.h"
 
 namespace trovex {
 namespace {
@@ -76,10 +77,12 @@ void ListFichier_Click(MainForm& form) {
   IgnoringErrors([&] {
     if (bEstExtension(sNom, u".diz") || bEstExtension(sNom, u".txt")) {
       ShowText(form, sFichier);
-    } else if (bEstExtension(sNom, u".hlp")) {
-      AfficheAide({}, sFichier);
     } else if (bEstExtension(sNom, u".ico")) {
       ShowIcon(form, sFichier);
+    } else if (CurrentPlatform().IsInsideImage(sFichier)) {
+      // No other program can open it; who insists with a double click is told so.
+    } else if (bEstExtension(sNom, u".hlp")) {
+      AfficheAide({}, sFichier);
     } else {
       iLanceParAssociation(sFichier, true);
     }
@@ -89,9 +92,11 @@ void ListFichier_Click(MainForm& form) {
 
 // The system would answer for a help file that it cannot show with a page of its own.
 void ListFichier_DblClick(MainForm& form) {
+  const Text sFichier = ChosenFile(form);
+  if (bRefuseDansImage(sFichier)) return;
   const bool help = bEstExtension(form.ListFichier.GetText(), u".hlp");
-  if (help && !CurrentPlatform().HasHelpEngine()) return AfficheAide({}, ChosenFile(form));
-  iLanceParAssociation(ChosenFile(form), true);
+  if (help && !CurrentPlatform().HasHelpEngine()) return AfficheAide({}, sFichier);
+  iLanceParAssociation(sFichier, true);
 }
 
 }  // namespace trovex

@@ -6,6 +6,7 @@
 #include "Lib/LIB_SHELL.h"
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
+#include "Screen/DiscImages.h"
 
 namespace trovex {
 
@@ -16,7 +17,9 @@ void GridLogiciel_DblClick(MainForm& form, int Index) {
   Text sFichier = Trim(grid.GetText());
   grid.SetCol(1);
   sFichier = sAjouteBackslash(Trimmed(grid.GetText())) + sFichier;
-  if (Index == static_cast<int>(Table::kArchives)) {
+  if (bRefuseDansImage(sFichier)) {
+    // Said already.
+  } else if (Index == static_cast<int>(Table::kArchives)) {
     iLanceParAssociation(sFichier, true);
   } else {
     const Text sQuestion = ResString(StringId::kConfirmeExecution) + Text(kCrLf) + sFichier;

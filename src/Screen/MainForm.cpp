@@ -3,7 +3,9 @@
 #include "Lib/Dialogs.h"
 #include "Lib/LIB_BUSY.h"
 #include "Resources/MainFormTable.h"
+#include "Resources/Strings.h"
 #include "Screen/ConvertHTML.h"
+#include "Screen/DiscImages.h"
 #include "Screen/Exploration.h"
 #include "Screen/FileViewer.h"
 #include "Screen/Launching.h"
@@ -30,7 +32,8 @@ MainForm::MainForm()
       PrintTexte(Get<Button>(u"PrintTexte")),
       ListFichier(Get<ListBox>(u"ListFichier")),
       ImageSelect(Get<PictureBox>(u"ImageSelect")),
-      PanelAide(Get<StatusBar>(u"PanelAide")) {
+      PanelAide(Get<StatusBar>(u"PanelAide")),
+      OuvrirImage(AddMenuEntry(ResString(StringId::kOuvrirImage))) {
   for (int i = 0; i < kTableCount; ++i) {
     grids_[static_cast<std::size_t>(i)] = &Get<Grid>(u"GridLogiciel", i);
   }
@@ -56,6 +59,8 @@ void MainForm::BindEvents() {
   on_paint = [this] { Form_Paint(*this); };
   on_unload = [this] { Form_Unload(*this); };
   on_session_end = [this] { Unload(); };
+  on_drop_files = [this](const std::vector<Text>& files) { Form_DropFiles(*this, files); };
+  OuvrirImage.on_click = [this] { OuvrirImage_Click(*this); };
   on_key_down = [](int key) {
     if (key == kKeyF1) AfficheAide({});
   };

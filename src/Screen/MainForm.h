@@ -54,6 +54,7 @@ class MainForm : public Form {
   ListBox& ListFichier;
   PictureBox& ImageSelect;
   StatusBar& PanelAide;
+  MenuEntry& OuvrirImage;  // in the window's menu
 
  private:
   void BindEvents();

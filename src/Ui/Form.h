@@ -86,6 +86,8 @@ class Form : public Control {
   Event on_resize;
   Event on_paint;
   Event on_unload;
+  // Files that the user dropped on the form, as full names. A form without this takes none.
+  std::function<void(const std::vector<Text>& files)> on_drop_files;
   // The session of the system ends, and the program with it as soon as this is done.
   Event on_session_end;
   // Esc, and Enter where the control that has the focus has no use for it.

@@ -176,7 +176,7 @@ TEST_F(CliTest, ATableOfOneEntryGivesWayToAnEmptyOneBehindIt) {
 TEST_F(CliTest, HelpNamesEveryOption) {
   EXPECT_EQ(RunWith({"--help"}), cli::kDone);
   EXPECT_EQ(err_, "");
-  for (const char* option : {"DIRECTORY", "--drive", "--start", "--json", "--inspect", "--ini",
+  for (const char* option : {"DISC", "--drive", "--start", "--json", "--inspect", "--ini",
                              "--quiet", "--help", "--version"}) {
     EXPECT_THAT(out_, HasSubstr(option));
   }
@@ -189,8 +189,8 @@ TEST_F(CliTest, VersionIsNameAndNumber) {
 }
 
 TEST_F(CliTest, ACommandLineWithoutDirectoryIsWrong) {
-  ExpectWrong({}, "DIRECTORY");
-  ExpectWrong({"--json"}, "DIRECTORY");
+  ExpectWrong({}, "DISC");
+  ExpectWrong({"--json"}, "DISC");
 }
 
 TEST_F(CliTest, AMissingDirectoryIsNamedInOneLine) {
@@ -201,7 +201,7 @@ TEST_F(CliTest, AMissingDirectoryIsNamedInOneLine) {
 
 TEST_F(CliTest, AFileInTheDirectorysPlaceIsNamedInOneLine) {
   disc_.File("FICHIER.TXT", "texte");
-  ExpectWrong({Argument("FICHIER.TXT")}, Argument("FICHIER.TXT") + " is not a directory");
+  ExpectWrong({Argument("FICHIER.TXT")}, Argument("FICHIER.TXT") + ": neither a directory nor a disc image");
 }
 
 TEST_F(CliTest, AStartThatIsMissingOrAFileIsWrong) {

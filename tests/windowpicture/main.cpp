@@ -1,5 +1,7 @@
-// trovex-windowpicture TROVEX.EXE PICTURE.PNG: starts the program, chooses drive D:, presses
-// Explorer, and writes a picture of the window. Exit status: 0; 1 with a line that says why.
+// trovex-windowpicture TROVEX.EXE PICTURE.PNG [IMAGE]: starts the program, chooses drive D:, or
+// drops the disc image on the window, presses Explorer, and writes a picture of the window; with
+// "-" in the picture's place it leaves the window to its user until that closes it. Exit status: 0;
+// 1 with a line that says why.
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
@@ -7,8 +9,9 @@
 #include "Platform/Win32/Windows.h"
 #include "support/Win32/WindowPicture.h"
 
-// Behind Windows.h, whose types it needs.
+// Behind Windows.h, whose types they need.
 #include <commctrl.h>
+#include <shlobj.h>
 
 namespace trovex::test {
 namespace {
@@ -36,6 +39,8 @@ class Program {
   }
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
+
+  HANDLE Handle() const { return process_.hProcess; }
 
   // The program's window as soon as it is to be seen.
   HWND Window() const {
@@ -77,6 +82,24 @@ void ChooseDrive(HWND window) {
   Ask(window, WM_COMMAND, MAKEWPARAM(0, CBN_SELCHANGE), reinterpret_cast<LPARAM>(drives));
 }
 
+// As if the file had been dropped by its user. What is dropped must stand in the program's memory.
+void Drop(const Program& trovex, HWND window, const std::wstring& file) {
+  struct {
+    DROPFILES head = {sizeof(DROPFILES), {0, 0}, FALSE, TRUE};
+    wchar_t names[MAX_PATH + 2] = {};
+  } dropped;
+  if (file.size() > MAX_PATH) throw std::runtime_error("the image's name is too long");
+  file.copy(dropped.names, file.size());
+  void* there =
+      VirtualAllocEx(trovex.Handle(), nullptr, sizeof dropped, MEM_COMMIT, PAGE_READWRITE);
+  if (there == nullptr ||
+      !WriteProcessMemory(trovex.Handle(), there, &dropped, sizeof dropped, nullptr)) {
+    throw std::runtime_error("the image cannot be dropped");
+  }
+  PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(there), 0);
+  Ask(window, WM_NULL, 0, 0);
+}
+
 void Explore(HWND window) {
   Ask(Child(window, L"BUTTON", L"Explorer"), BM_CLICK, 0, 0);
   // What was put off until the program comes to rest is shown behind this.
@@ -85,13 +108,21 @@ void Explore(HWND window) {
   Ask(window, WM_NULL, 0, 0);
 }
 
-int Run(const wchar_t* program, const wchar_t* picture) {
+int Run(const wchar_t* program, const std::wstring& picture, const std::wstring& image) {
   try {
     const Program trovex(program);
     const HWND window = trovex.Window();
-    ChooseDrive(window);
+    if (image.empty()) {
+      ChooseDrive(window);
+    } else {
+      Drop(trovex, window, image);
+    }
     Explore(window);
-    WritePicture(window, picture);
+    if (picture == L"-") {
+      WaitForSingleObject(trovex.Handle(), INFINITE);
+    } else {
+      WritePicture(window, picture);
+    }
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "trovex-windowpicture: %s\n", error.what());
@@ -103,7 +134,9 @@ int Run(const wchar_t* program, const wchar_t* picture) {
 }  // namespace trovex::test
 
 int wmain(int count, wchar_t** arguments) {
-  if (count == 3) return trovex::test::Run(arguments[1], arguments[2]);
-  std::fprintf(stderr, "usage: trovex-windowpicture TROVEX.EXE PICTURE.PNG\n");
+  if (count == 3 || count == 4) {
+    return trovex::test::Run(arguments[1], arguments[2], count == 4 ? arguments[3] : L"");
+  }
+  std::fprintf(stderr, "usage: trovex-windowpicture TROVEX.EXE PICTURE.PNG [IMAGE]\n");
   return 1;
 }

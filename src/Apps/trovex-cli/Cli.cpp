@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "Apps/trovex-cli/Catalogue.h"
+#include "Apps/trovex-cli/DiscHost.h"
 #include "Apps/trovex-cli/GivenNames.h"
 #include "Apps/trovex-cli/Incomplete.h"
 #include "Apps/trovex-cli/Options.h"
@@ -15,6 +16,7 @@
 #include "Paper/SavePdf.h"
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
+#include "Resources/Strings.h"
 #include "Screen/ConvertHTML.h"
 #include "Screen/LIB_GENERALE.h"
 #include "Screen/PrintCommands.h"
@@ -220,8 +222,9 @@ int RunOn(const std::vector<std::string>& arguments, std::ostream& out, std::ost
   }
   const Options& options = *parsed.options;
   std::string complaint;
-  const auto host = OpenHost(options.directory, static_cast<char16_t>(options.drive), complaint);
+  const auto host = OpenDisc(options.directory, static_cast<char16_t>(options.drive), complaint);
   if (!host) return Complain(err, complaint);
+  if (!complaint.empty()) err << complaint << '\n';
 
   PlatformScope platform(host->GetPlatform());
   HeadlessView view;

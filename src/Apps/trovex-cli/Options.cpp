@@ -33,12 +33,14 @@ std::string OneLine(std::string text) {
 
 Parsed ParseArguments(const std::vector<std::string>& arguments) {
   CLI::App app{
-      "Catalogues the software in DIRECTORY: install procedures, other executables, ZIP archives.",
+      "Catalogues the software on DISC: install procedures, other executables, ZIP archives.",
       "trovex-cli"};
   Options options;
   std::string drive = "D";
-  app.add_option("DIRECTORY", options.directory, "The directory to catalogue")->required();
-  app.add_option("--drive", drive, "DIRECTORY is the root of this drive (not on Windows)")
+  app.add_option("DISC", options.directory,
+                 "The directory or disc image (.iso, .bin, .cue, .img, .mdf...) to catalogue")
+      ->required();
+  app.add_option("--drive", drive, "DISC is the root of this drive (on Windows: an image)")
       ->type_name("L")
       ->default_str("D")
       ->check(CLI::Validator(CheckDrive, "", "letter"));

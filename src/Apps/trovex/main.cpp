@@ -2,6 +2,7 @@
 #include <exception>
 #include <new>
 
+#include "Image/DiscPlatform.h"
 #include "Lib/LIB_DIALOGUE.h"
 #include "Platform/Encoding.h"
 #include "Platform/Win32/Win32Platform.h"
@@ -36,7 +37,9 @@ void Report(std::exception_ptr failure) {
 
 int RunProgram() {
   Win32Platform platform;
-  PlatformScope platform_scope(platform);
+  DiscPlatform discs(platform);
+  DiscsScope discs_scope(discs);
+  PlatformScope platform_scope(discs);
   win32::Win32View view;
   ViewScope view_scope(view);
   FormsScope forms;

@@ -28,6 +28,19 @@ class FileSource : public records::ByteSource {
   int error_ = 0;
 };
 
+// The same for a file that is its own.
+class OwnedSource : public records::ByteSource {
+ public:
+  explicit OwnedSource(FileDescriptor file) : file_(std::move(file)) {}
+  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
+    return source_.ReadAt(offset, buffer, size);
+  }
+
+ private:
+  FileDescriptor file_;
+  FileSource source_{file_};
+};
+
 // Appends what the file holds, at most records::kMaxProfile bytes, to `bytes`; 0, or the errno of
 // the failure.
 int ReadProfile(const FileDescriptor& file, std::string& bytes);

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "Platform/Encoding.h"
+#include "Platform/EntryNames.h"
 #include "Platform/Posix/HostCalls.h"
 
 namespace trovex::posix {
@@ -109,22 +110,6 @@ std::uint64_t KeyOf(TextView name) {
   return key;
 }
 
-int CompareUpper(TextView a, TextView b) {
-  const std::size_t size = std::min(a.size(), b.size());
-  for (std::size_t i = 0; i < size; ++i) {
-    const char16_t x = ToUpper(a[i]), y = ToUpper(b[i]);
-    if (x != y) return x < y ? -1 : 1;
-  }
-  return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
-}
-
-// `name` with ~number put before its extension. A point at the start makes no extension.
-Text Numbered(TextView name, unsigned number) {
-  const std::size_t point = name.rfind(u'.');
-  const std::size_t stem = point == TextView::npos || point == 0 ? name.size() : point;
-  return Text(name.substr(0, stem)) + u'~' + Decimal(number) + Text(name.substr(stem));
-}
-
 }  // namespace
 
 Text ShownName(std::string_view host_name) {
@@ -210,7 +195,7 @@ ListedEntry Listing::Listed(std::size_t index) const {
 
 int Listing::Compare(const Record& record, std::uint64_t key, TextView name) const {
   if (record.key != key) return record.key < key ? -1 : 1;
-  return CompareUpper(Name(record), name);
+  return CompareNoCase(Name(record), name);
 }
 
 std::size_t Listing::PlaceOf(TextView name) const {
@@ -302,7 +287,7 @@ void Listing::SeparateNames() {
     }
     Text name;
     do {
-      name = Numbered(Name(record), ++number);
+      name = NumberedName(Name(record), ++number);
     } while (!taken.insert(ToUpper(name)).second);
     Rename(record, name);
   }

@@ -82,6 +82,7 @@ void FillRegistry(posix::RegistryTable& registry, const Text& system_directory) 
 
 class PosixHost : public Host {
  public:
+  // Without a directory where that is empty.
   PosixHost(const std::string& directory, char16_t drive)
       : drive_(ToUpper(drive)),
         root_drive_(drive_ == u'Z' ? u'Y' : u'Z'),
@@ -116,10 +117,13 @@ class PosixHost : public Host {
   Text SystemDrive() const { return drive_ == u'C' ? u"X:" : u"C:"; }
 
   PosixSetup Setup(const std::string& directory) const {
-    const fs::path real = RealPath(directory);
     PosixSetup setup;
-    setup.drives = {{drive_, real.string(), DriveType::kCdRom, FromUtf8(real.filename().string())},
-                    {root_drive_, "/", DriveType::kFixed, u""}};
+    if (!directory.empty()) {
+      const fs::path real = RealPath(directory);
+      const Text label = FromUtf8(real.filename().string());
+      setup.drives.push_back({drive_, real.string(), DriveType::kCdRom, label});
+    }
+    setup.drives.push_back({root_drive_, "/", DriveType::kFixed, u""});
     setup.windows_directory = SystemDrive() + kWindowsDirectory;
     setup.system_directory = SystemDrive() + kSystemDirectory;
     // The host's own directories are named through its root drive.
@@ -142,6 +146,10 @@ std::unique_ptr<Host> OpenHost(const std::string& directory, char16_t drive,
   if (reason.empty()) return std::make_unique<PosixHost>(directory, drive);
   complaint = Sentence(directory, reason);
   return nullptr;
+}
+
+std::unique_ptr<Host> OpenHostWithoutDisc(char16_t drive) {
+  return std::make_unique<PosixHost>(std::string(), drive);
 }
 
 }  // namespace trovex

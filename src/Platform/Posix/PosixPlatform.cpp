@@ -14,6 +14,7 @@
 #include "Platform/Posix/FileReads.h"
 #include "Platform/Posix/HostCalls.h"
 #include "Platform/Posix/ListedDirectory.h"
+#include "Platform/Posix/LocalDate.h"
 #include "Platform/Posix/Replacement.h"
 #include "Platform/Posix/SystemData.h"
 #include "Platform/Records/IconResource.h"
@@ -221,6 +222,16 @@ FileHandle PosixPlatform::OpenWrite(const Text& name) {
   const FileHandle handle = files_.Add(std::move(file));
   unfinished_.emplace(handle, std::move(unfinished));
   return handle;
+}
+
+std::unique_ptr<records::ByteSource> PosixPlatform::OpenSource(const Text& name) {
+  FileDescriptor file;
+  const int error = OnPlace(name, [&](const Place& place) {
+    if (const int unusable = FileError(place)) return unusable;
+    file = OpenHostFile(place.host);
+    return file.IsOpen() ? 0 : errno;
+  });
+  return error == 0 ? std::make_unique<OwnedSource>(std::move(file)) : nullptr;
 }
 
 std::size_t PosixPlatform::Read(FileHandle file, void* buffer, std::size_t size) {
@@ -468,6 +479,10 @@ void PosixPlatform::MessageBeep(std::uint32_t) {}
 
 Text PosixPlatform::FormatMessage(std::uint32_t code) {
   return SystemText(code);
+}
+
+LocalTime PosixPlatform::LocalTimeOf(std::int64_t moment) {
+  return LocalDate(moment);
 }
 
 double PosixPlatform::Random() {

@@ -51,6 +51,7 @@ class PosixPlatform : public Platform {
   std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
   void Write(FileHandle file, const void* data, std::size_t size) override;
   void Close(FileHandle file) override;
+  std::unique_ptr<records::ByteSource> OpenSource(const Text& name) override;
   void CopyFile(const Text& source, const Text& destination) override;
   void DeleteFile(const Text& name) override;
   void PutInPlace(const Text& source, const Text& place) override;
@@ -93,6 +94,7 @@ class PosixPlatform : public Platform {
   void CloseHandle(SnapshotHandle snapshot) override;
   void MessageBeep(std::uint32_t type) override;
   Text FormatMessage(std::uint32_t code) override;
+  LocalTime LocalTimeOf(std::int64_t moment) override;
   double Random() override;
 
   // The registry: empty, for whoever sets up the platform to fill.

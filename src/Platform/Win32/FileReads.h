@@ -8,7 +8,7 @@
 namespace trovex {
 
 // Opens for reading, shared. Raises as Platform::OpenRead.
-OwnedFile OpenSource(const Text& name);
+OwnedFile OpenForReading(const Text& name);
 
 // Status of an open file.
 bool StatusOf(void* file, FileStatus& status);

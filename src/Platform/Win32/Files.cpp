@@ -94,6 +94,33 @@ std::size_t ReadAll(HANDLE file, char* buffer, std::size_t size) {
   return done;
 }
 
+// Reads at offsets from a file of its own.
+class KeptSource : public records::ByteSource {
+ public:
+  explicit KeptSource(OwnedFile file) : file_(std::move(file)), source_(file_.get()) {}
+  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
+    return source_.ReadAt(offset, buffer, size);
+  }
+
+ private:
+  OwnedFile file_;
+  FileSource source_;
+};
+at.Offset = static_cast<DWORD>(place);
+at.OffsetHigh = static_cast<DWORD>(place >> 32);
+const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
+DWORD count = 0;
+if (!ReadFile(file_.get(), buffer + done, piece, &count, &at) || count == 0) break;
+done += count;
+}
+return done;
+}
+
+private:
+OwnedFile file_;
+}
+;
+
 void WriteAll(HANDLE file, const char* data, std::size_t size) {
   for (std::size_t done = 0; done < size;) {
     const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
@@ -151,6 +178,12 @@ class FileBeside {
   OwnedFile file_;
 };
 
+// Seconds from 1601, where the system's times begin, to 1970, and bounds a day within the years
+// that it can tell, in seconds since 1970.
+constexpr std::int64_t kBeforeEpoch = 11644473600;
+constexpr std::int64_t kFirstMoment = -11644387200, kLastMoment = 253402128000;
+constexpr std::int64_t kTicksASecond = 10000000;
+
 LocalTime ToLocalTime(const FILETIME& time) {
   SYSTEMTIME universal = {}, local = {};
   if (!FileTimeToSystemTime(&time, &universal) ||
@@ -186,7 +219,7 @@ bool Query(const Text& verbatim, WIN32_FILE_ATTRIBUTE_DATA& data) {
 
 }  // namespace
 
-OwnedFile OpenSource(const Text& name) {
+OwnedFile OpenForReading(const Text& name) {
   const Unredirected unredirected;
   return OpenDiskFile(Openable(name), GENERIC_READ, kShareAll, OPEN_EXISTING);
 }
@@ -251,7 +284,7 @@ void* Win32Platform::Native(FileHandle file) const {
 }
 
 FileHandle Win32Platform::OpenRead(const Text& name) {
-  return Keep(OpenSource(name));
+  return Keep(OpenForReading(name));
 }
 
 // Emptied after it was opened: the system would refuse to create over a hidden file.
@@ -261,6 +294,20 @@ FileHandle Win32Platform::OpenWrite(const Text& name) {
   if (!SetEndOfFile(file.get())) RaiseFor(verbatim, ::GetLastError());
   ListUnfinished(file.get(), verbatim);
   return Keep(std::move(file));
+}
+
+LocalTime Win32Platform::LocalTimeOf(std::int64_t moment) {
+  const std::int64_t seconds = std::clamp(moment, kFirstMoment, kLastMoment) + kBeforeEpoch;
+  const std::uint64_t ticks = static_cast<std::uint64_t>(seconds) * kTicksASecond;
+  return ToLocalTime({static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)});
+}
+
+std::unique_ptr<records::ByteSource> Win32Platform::OpenSource(const Text& name) {
+  try {
+    return std::make_unique<KeptSource>(OpenForReading(name));
+  } catch (const RuntimeError&) {
+    return nullptr;
+  }
 }
 
 std::size_t Win32Platform::Read(FileHandle file, void* buffer, std::size_t size) {
@@ -281,7 +328,7 @@ void Win32Platform::Close(FileHandle file) {
 }
 
 void Win32Platform::CopyFile(const Text& source, const Text& destination) {
-  const OwnedFile from = OpenSource(source);
+  const OwnedFile from = OpenForReading(source);
   FileBeside copy(Writable(destination));
   std::array<char, 65536> piece;
   while (const std::size_t count = ReadAll(from.get(), piece.data(), piece.size())) {

@@ -19,7 +19,7 @@ bool IsRefusal(const RuntimeError& error) {
 
 std::string RecordOf(const Text& name) {
   try {
-    const OwnedFile file = OpenSource(name);
+    const OwnedFile file = OpenForReading(name);
     FileSource source(file.get());
     return records::ReadVersionRecord(source);
   } catch (const RuntimeError& error) {
@@ -87,7 +87,7 @@ Reading Win32Platform::GetFileProperties(const Text& name, FileStatus& status,
                                          std::string& record) {
   record.clear();
   try {
-    const OwnedFile file = OpenSource(name);
+    const OwnedFile file = OpenForReading(name);
     if (!StatusOf(file.get(), status)) return Reading::kNothing;
     FileSource source(file.get());
     record = records::ReadVersionRecord(source);

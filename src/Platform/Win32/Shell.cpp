@@ -63,7 +63,7 @@ bool StartWithMoreRights(const CommandLine& line, int mode) {
 
 bool HoldsSoundIcon(const Text& file) {
   try {
-    const OwnedFile opened = OpenSource(file);
+    const OwnedFile opened = OpenForReading(file);
     FileSource source(opened.get());
     return records::HoldsIcon(source);
   } catch (const RuntimeError&) {

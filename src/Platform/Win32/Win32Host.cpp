@@ -49,4 +49,8 @@ std::unique_ptr<Host> OpenHost(const std::string& directory, char16_t, std::stri
   return host;
 }
 
+std::unique_ptr<Host> OpenHostWithoutDisc(char16_t) {
+  return std::make_unique<Win32Host>(Text());
+}
+
 }  // namespace trovex

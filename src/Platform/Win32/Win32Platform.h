@@ -26,6 +26,7 @@ class Win32Platform : public Platform {
   std::size_t Read(FileHandle file, void* buffer, std::size_t size) override;
   void Write(FileHandle file, const void* data, std::size_t size) override;
   void Close(FileHandle file) override;
+  std::unique_ptr<records::ByteSource> OpenSource(const Text& name) override;
   void CopyFile(const Text& source, const Text& destination) override;
   void DeleteFile(const Text& name) override;
   void PutInPlace(const Text& source, const Text& place) override;
@@ -69,6 +70,7 @@ class Win32Platform : public Platform {
   void CloseHandle(SnapshotHandle snapshot) override;
   void MessageBeep(std::uint32_t type) override;
   Text FormatMessage(std::uint32_t code) override;
+  LocalTime LocalTimeOf(std::int64_t moment) override;
   double Random() override;
 
  private:

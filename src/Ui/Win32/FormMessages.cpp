@@ -1,6 +1,9 @@
 // The one window procedure: it routes.
 #include <windowsx.h>
 
+#include <algorithm>
+
+#include "Platform/Win32/Names.h"
 #include "Ui/Win32/FormWindow.h"
 #include "Ui/Win32/SystemMenu.h"
 #include "Ui/Win32/Win32View.h"
@@ -69,6 +72,9 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
         return 0;
       }
       break;
+    case WM_DROPFILES:
+      OnDropFiles(reinterpret_cast<HDROP>(w));
+      return 0;
     case WM_SIZE:
       OnSize(w);
       return 0;
@@ -118,6 +124,18 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w, LPARAM l) {
 void FormWindow::RequestDrives() {
   if (drives_requested_ || !form_.on_drives_changed) return;
   drives_requested_ = PostMessageW(handle_, kDrivesMessage, 0, 0) != FALSE;
+}
+
+void FormWindow::OnDropFiles(HDROP drop) {
+  const UINT count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+  std::vector<Text> files;
+  for (UINT i = 0; i < count; ++i) {
+    Text name(DragQueryFileW(drop, i, nullptr, 0), u'\0');
+    DragQueryFileW(drop, i, Wide(name), static_cast<UINT>(name.size() + 1));
+    files.push_back(std::move(name));
+  }
+  DragFinish(drop);
+  if (form_.on_drop_files) Run([&] { form_.on_drop_files(files); });
 }
 
 bool FormWindow::Route(UINT message, WPARAM w, LPARAM l, LRESULT& result) {

@@ -55,6 +55,7 @@ void FormWindow::CreateWindowOfForm() {
                             GetModuleHandleW(nullptr), this);
   scale_.dpi = DpiOf(handle_);
   MirrorSystemMenu(handle_, form_);
+  DragAcceptFiles(handle_, form_.on_drop_files ? TRUE : FALSE);
   PlaceWindow();
 }
 

@@ -98,6 +98,7 @@ class FormWindow {
   void RequestDrives();
   // The form itself has got the focus: the control that had it last gets it, or the next one.
   void PassFocusOn();
+  void OnDropFiles(HDROP drop);
   RECT OuterRectangle() const;
 
   Form& form_;

@@ -1,0 +1,34 @@
+#include "Image/OpenFiles.h"
+
+namespace trovex::image {
+namespace {
+
+// Above every handle of a system.
+constexpr std::int64_t kFirst = std::int64_t{1} << 58;
+constexpr std::int64_t kEnd = std::int64_t{1} << 59;
+
+}  // namespace
+
+FileHandle OpenFiles::Add(std::unique_ptr<FileContents> contents) {
+  const auto handle = static_cast<FileHandle>(kFirst + next_++);
+  files_.emplace(handle, Reader{std::move(contents), 0});
+  return handle;
+}
+
+bool OpenFiles::IsOurs(FileHandle handle) {
+  const auto number = static_cast<std::int64_t>(handle);
+  return number >= kFirst && number < kEnd;
+}
+
+std::size_t OpenFiles::Read(FileHandle handle, void* buffer, std::size_t size) {
+  const auto found = files_.find(handle);
+  if (found == files_.end()) throw RuntimeError(ErrorNumber::kDeviceIo);
+  Reader& reader = found->second;
+  const std::size_t got = reader.contents->ReadAt(reader.place, static_cast<char*>(buffer), size);
+  const bool more = reader.place + got < reader.contents->Length();
+  if (got == 0 && size > 0 && more) throw RuntimeError(ErrorNumber::kDeviceIo);
+  reader.place += got;
+  return got;
+}
+
+}  // namespace trovex::image

@@ -1,0 +1,33 @@
+// Finds the root directory that a descriptor means, though not all that it says be true.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "Image/Descriptor.h"
+#include "Image/Sectors.h"
+
+namespace trovex::image {
+
+struct Root {
+  std::uint32_t block = 0;
+  std::uint32_t size = 0;  // in bytes
+};
+
+// How many more sectors may be looked at where a root is searched for: a bound for all searches of
+// one image together.
+struct SearchBudget {
+  std::uint32_t sectors = 1 << 22;  // a whole layer of a DVD goes in
+};
+
+// `index` is the sector of the session's first descriptor in `track`, one of those of `sectors`.
+// The root is where the descriptor's record leads, else where a table of paths does, else in a
+// session that was saved alone, whose sectors are then renumbered.
+std::optional<Root> FindRoot(Sectors& sectors, Track& track, std::uint32_t index,
+                             const Descriptor& descriptor, SearchBudget& budget);
+
+// For discs where all of that fails: a directory that is its own parent.
+std::optional<Root> FindRootAnywhere(const Track& track, std::uint32_t index,
+                                     const Descriptor& descriptor, SearchBudget& budget);
+
+}  // namespace trovex::image
