@@ -201,7 +201,8 @@ TEST_F(CliTest, AMissingDirectoryIsNamedInOneLine) {
 
 TEST_F(CliTest, AFileInTheDirectorysPlaceIsNamedInOneLine) {
   disc_.File("FICHIER.TXT", "texte");
-  ExpectWrong({Argument("FICHIER.TXT")}, Argument("FICHIER.TXT") + ": neither a directory nor a disc image");
+  ExpectWrong({Argument("FICHIER.TXT")},
+              Argument("FICHIER.TXT") + ": neither a directory nor a disc image");
 }
 
 TEST_F(CliTest, AStartThatIsMissingOrAFileIsWrong) {
