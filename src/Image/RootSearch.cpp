@@ -8,8 +8,9 @@
 namespace trovex::image {
 namespace {
 
-// What of a directory is read: its records of itself and of the one above.
-using Head = std::array<char, 128>;
+// What of a directory is read: its records of itself and of the one above, which are as long as
+// what other systems add to them.
+using Head = std::array<char, 512>;
 
 // The record by which a directory lists itself; nothing where the bytes begin none.
 std::optional<Record> SelfIn(const Head& head, std::size_t held, Format format) {

@@ -79,9 +79,8 @@ std::optional<Volume> VolumeAt(Sectors& sectors, Track& track, std::uint32_t ind
   Descriptor primary;
   if (!primary.Read(track, index)) return std::nullopt;
   auto root = FindRoot(sectors, track, index, primary, budget);
-  if (place == Place::kLater && (!root || !BeginsSession(track, index, primary, *root))) {
-    return std::nullopt;
-  }
+  const bool later = place == Place::kLater;
+  if (later && (!root || !BeginsSession(track, index, primary, *root))) return std::nullopt;
   const auto joliet = FindJoliet(track, index);
   const auto long_root = joliet ? FindRoot(sectors, track, index, *joliet, budget) : std::nullopt;
   if (!root && !long_root) root = FindRootAnywhere(track, index, primary, budget);

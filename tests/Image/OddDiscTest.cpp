@@ -66,6 +66,17 @@ TEST_F(OddDiscs, ARootThatSaysItIsEmptyIsAsLongAsItsOwnRecordSays) {
   ExpectSmallDisc();
 }
 
+TEST_F(OddDiscs, ARootWhoseRecordOfItselfHoldsWhatOtherSystemsAdd) {
+  BuiltIso iso = SmallDisc().Build(IsoFormat::kPlain);
+  const std::size_t root = iso.data[""];
+  constexpr std::size_t kAdded = 200;
+  iso.bytes.erase(root + kIsoSector - kAdded, kAdded);
+  iso.bytes.insert(root + iso.At(root), kAdded, '\x01');
+  iso.At(root) = static_cast<char>(iso.At(root) + kAdded);
+  Insert(iso);
+  ExpectSmallDisc();
+}
+
 TEST_F(OddDiscs, ADirectoryWithoutReadableLongNamesShowsPlainOnes) {
   BuiltIso iso = SmallDisc().Build(IsoFormat::kJoliet);
   iso.Put(kPrimary + kIsoSector + 156 + kRecordBlock, 9);

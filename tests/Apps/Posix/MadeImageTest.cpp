@@ -96,7 +96,10 @@ TEST_F(MadeImages, OfEveryLayoutShowTheDirectory) {
 }
 
 TEST_F(MadeImages, WithRockRidgeNamesShowTheOthers) {
-  MadeBy("-R -J -joliet-long");
+  MadeBy(std::string("-R ") + kJoliet);
+  ExpectSame(image_);
+  LeaveDosNames();
+  MadeBy("-R -U", kLatin);
   ExpectSame(image_);
 }
 
