@@ -77,6 +77,20 @@ TEST_F(ImageCliTest, WhatIsNoDiscIsNamedInOneLine) {
                "a disc without a track of data");
 }
 
+TEST_F(ImageCliTest, WhatAnImageLacksIsUnreadAndTheRestIsCatalogued) {
+  BuiltIso iso = Games().Build(IsoFormat::kPlain);
+  iso.Put(iso.records["JEUX/SETUP.EXE"] + kRecordBlock, 0x00FFFFFF);
+  iso.Put(iso.records["JEUX"] + kRecordSize, 3 * kIsoSector);
+  disc_.File("disque.bin", iso.bytes);
+  EXPECT_EQ(RunWith({Argument("disque.bin"), "--json"}), cli::kIncomplete);
+  const Json catalogue = Json::parse(out_);
+  EXPECT_EQ(catalogue["tables"][1]["rows"].size(), 1u);
+  EXPECT_EQ(catalogue["tables"][2]["rows"].size(), 1u);
+  EXPECT_THAT(catalogue["unread"].get<std::vector<std::string>>(),
+              testing::Contains("D:\\Jeux\\SETUP.EXE"));
+  EXPECT_THAT(err_, testing::HasSubstr("SETUP.EXE"));
+}
+
 TEST_F(ImageCliTest, AnImageThatEndsBeforeItsVolumeSaysSo) {
   BuiltIso iso = Games().Build(IsoFormat::kPlain);
   iso.Put(kPrimarySpace, 100000);

@@ -190,9 +190,9 @@ TEST_F(Descriptions, OtherDescriptionsLeadToTheImageBeside) {
   disc_.File("autre.mds", "MEDIA DESCRIPTOR\1\3");
   Mount(Open(u"D:\\autre.mds"));
   ExpectSmallDisc();
-  disc_.Remove("autre.mdf");
-  EXPECT_EQ(Open(u"D:\\autre.mds").problem, Problem::kMissingFile);
-  EXPECT_EQ(Open(u"D:\\autre.mds").missing, u"autre.mdf");
+  disc_.File("seul.mds", "MEDIA DESCRIPTOR\1\3");
+  EXPECT_EQ(Open(u"D:\\seul.mds").problem, Problem::kMissingFile);
+  EXPECT_EQ(Open(u"D:\\seul.mds").missing, u"seul.mdf");
 }
 
 TEST_F(Descriptions, WhatStandsBehindTheTracksOfAnImageIsPassedOver) {

@@ -79,6 +79,66 @@ TEST(IconResource, AnImageThatIsMissingIsNone) {
   EXPECT_FALSE(Holds(file));
 }
 
+std::string ImageOf(std::string_view file, int pixels) {
+  MemorySource source(file);
+  return records::IconImage(source, pixels);
+}
+
+// The bitmap of a sample with its mask.
+std::string_view Bitmap(std::string_view file) {
+  return file.substr(ImageIn(std::string(file)), 40 + 4 * 16 + 32 * 32 / 2 + 32 * 32 / 8);
+}
+
+TEST(IconImage, IsTheBitmapWithItsMask) {
+  // In a 16-bit program it is followed by what fills its units.
+  for (const std::string& sample : Samples()) {
+    EXPECT_TRUE(ImageOf(sample, 32).starts_with(Bitmap(sample)));
+  }
+}
+
+TEST(IconImage, AMaskThatIsMissingHidesNothing) {
+  std::string file = IconFile();
+  const std::uint32_t mask = 32 * 32 / 8;
+  SetNumber(file, 14, static_cast<std::uint32_t>(file.size()) - 22 - mask, 4);
+  const std::string colours = file.substr(22, file.size() - 22 - mask);
+  EXPECT_EQ(ImageOf(file.substr(0, file.size() - mask), 32), colours + std::string(mask, '\0'));
+}
+
+TEST(IconImage, IsThatOfTheNearestSizeAndOfMoreColours) {
+  const std::string one = IconFile().substr(22);
+  std::string file(6, '\0');
+  file[2] = 1;
+  std::string images;
+  struct Entry {
+    int side, bits;
+  };
+  const Entry entries[] = {{16, 4}, {32, 1}, {32, 4}, {0, 32}};
+  for (const auto& [side, bits] : entries) {
+    std::string entry(16, '\0');
+    entry[0] = entry[1] = static_cast<char>(side);
+    entry[6] = static_cast<char>(bits);
+    SetNumber(entry, 8, static_cast<std::uint32_t>(one.size()), 4);
+    SetNumber(entry, 12, static_cast<std::uint32_t>(6 + 4 * 16 + images.size()), 4);
+    file += entry;
+    images += one;
+    SetNumber(images, images.size() - 4, static_cast<std::uint32_t>(file[4]++), 4);
+  }
+  file += images;
+  const auto chosen = [&](int pixels) { return static_cast<int>(ImageOf(file, pixels).end()[-4]); };
+  EXPECT_EQ(chosen(16), 0);
+  EXPECT_EQ(chosen(32), 2);
+  EXPECT_EQ(chosen(40), 2);
+  EXPECT_EQ(chosen(200), 3);
+}
+
+TEST(IconImage, OfNoSoundIconIsEmpty) {
+  EXPECT_EQ(ImageOf("", 32), "");
+  EXPECT_EQ(ImageOf(DosExecutable(), 32), "");
+  std::string file = IconFile();
+  SetNumber(file, ImageIn(file) + 4, 1025, 4);
+  EXPECT_EQ(ImageOf(file, 32), "");
+}
+
 TEST(IconResource, EveryDamageGivesABoundedAnswer) {
   for (const DamagedProgram& program : DamagedPrograms()) {
     MemorySource source(program.contents);
@@ -93,6 +153,7 @@ TEST(IconResource, EveryDamageGivesABoundedAnswer) {
       MemorySource source(file);
       records::HoldsIcon(source);
       ASSERT_LE(source.reads, 2500) << round;
+      records::IconImage(source, 32);
     }
   }
 }

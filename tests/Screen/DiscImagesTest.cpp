@@ -105,6 +105,18 @@ TEST_F(DiscImagesTest, AnImageIsScannedLikeAnyDrive) {
   EXPECT_EQ(form.TextInfo(0).GetText(), u"Le jeu.");
 }
 
+TEST_F(DiscImagesTest, AProgramInsideAnImageShowsItsOwnIcon) {
+  machine.SetClass(u".exe", u"exefile");
+  machine.SetClass(u"exefile\\defaulticon", u"%1");
+  IsoBuilder iso;
+  iso.File("X.EXE", PeExecutable(VersionBlock8({}), Icon::kPresent));
+  disc.File("icone.iso", iso.Build(IsoFormat::kPlain).bytes);
+  Drop({u"D:\\icone.iso"});
+  Press(form.Explorer);
+  form.ZoneDesTableaux.SetTab(1);
+  EXPECT_EQ(form.IconeFichier.GetPicture(), (Picture{Picture::Source::kIconOf, u"E:\\X.exe", 0}));
+}
+
 TEST_F(DiscImagesTest, NothingStartsFromInsideAnImage) {
   Drop({u"D:\\disque.iso"});
   Press(form.Explorer);

@@ -1,5 +1,8 @@
 #include "Platform/Records/IconResource.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "Platform/Records/Executable.h"
 
 namespace trovex::records {
@@ -23,12 +26,18 @@ constexpr std::uint32_t kMaxPalette = 256;
 constexpr std::uint32_t kBitFields = 3;  // three masks stand before the colours
 constexpr std::uint32_t kPngSignature = 0x474E5089;
 
+constexpr std::uint64_t kMaxImage = 8 << 20;
+
 bool IsInside(ByteReader& file, const Extent& place) {
   return place.size > 0 && file.At(place.offset + place.size - 1, 1).has_value();
 }
 
 bool IsDepth(std::uint16_t bits) {
   return bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
+}
+
+std::uint64_t RowBytes(std::uint32_t width, std::uint16_t bits) {
+  return (std::uint64_t{width} * bits + 31) / 32 * 4;
 }
 
 // Bytes of the head, the palette and the colours; nothing for what is no bitmap of an icon.
@@ -42,8 +51,7 @@ std::optional<std::uint64_t> BytesNeeded(const ByteView& head) {
   if ((compression != 0 && compression != kBitFields) || palette > kMaxPalette) return std::nullopt;
   if (palette == 0 && bits <= 8) palette = 1U << bits;
   const std::uint64_t masks = compression == kBitFields ? 3 : 0;
-  const std::uint64_t row = (std::uint64_t{width} * bits + 31) / 32 * 4;
-  return kBitmapHeadSize + 4 * (masks + palette) + row * height;
+  return kBitmapHeadSize + 4 * (masks + palette) + RowBytes(width, bits) * height;
 }
 
 bool IsSoundImage(ByteReader& file, const Extent& place) {
@@ -88,7 +96,66 @@ bool IsIconFile(ByteReader& file) {
   return images > 0;
 }
 
+// How far an image is from what is wanted: the size counts before the colours.
+int Misfit(const ByteView& entry, int pixels) {
+  const int width = entry.U16(0) & 0xFF;
+  const int bits = std::min<int>(entry.U16(6), 32);
+  return std::abs((width == 0 ? 256 : width) - pixels) * 64 + 32 - bits;
+}
+
+// Where the entry of the image that suits best stands, of those behind the head at `offset`.
+std::optional<ByteView> BestEntry(ByteReader& file, std::uint64_t offset, std::size_t entry_size,
+                                  int pixels) {
+  std::uint64_t best = 0;
+  int least = 0;
+  const std::size_t images = ImagesOf(file, offset);
+  for (std::size_t i = 0; i < images; ++i) {
+    const std::uint64_t at = offset + kHeadSize + i * entry_size;
+    const auto entry = file.At(at, entry_size);
+    if (!entry) break;
+    const int misfit = Misfit(*entry, pixels);
+    if (best != 0 && misfit >= least) continue;
+    best = at;
+    least = misfit;
+  }
+  return best != 0 ? file.At(best, entry_size) : std::nullopt;
+}
+
+template <typename Resources>
+std::optional<Extent> BestInGroup(ByteReader& file, const Resources& resources, int pixels) {
+  const auto group = resources.First(kIconGroupType);
+  const auto entry = group ? BestEntry(file, group->offset, kGroupEntrySize, pixels) : std::nullopt;
+  return entry ? resources.Numbered(kIconType, entry->U16(kPlaceAt)) : std::nullopt;
+}
+
+std::optional<Extent> BestInFile(ByteReader& file, int pixels) {
+  const auto entry = BestEntry(file, 0, kFileEntrySize, pixels);
+  if (!entry) return std::nullopt;
+  return Extent{entry->U32(kPlaceAt), entry->U32(kLengthAt)};
+}
+
+// A mask that a bitmap lacks hides nothing.
+void AddMask(std::string& bitmap) {
+  const ByteView head(bitmap);
+  if (head.U32(0) == kPngSignature) return;
+  const std::uint32_t width = head.U32(4), height = head.U32(8) / 2;
+  const std::uint64_t whole = BytesNeeded(head).value_or(0) + RowBytes(width, 1) * height;
+  bitmap.resize(std::max<std::uint64_t>(bitmap.size(), whole));
+}
+
 }  // namespace
+
+std::string IconImage(ByteSource& source, int pixels) {
+  if (!HoldsIcon(source)) return {};
+  ByteReader file(source);
+  auto place = OnResources(
+      file, [&](const auto& resources) { return BestInGroup(file, resources, pixels); });
+  if (!place) place = BestInFile(file, pixels);
+  std::string image;
+  if (!place || place->size > kMaxImage || !file.Copy(place->offset, place->size, image)) return {};
+  AddMask(image);
+  return image;
+}
 
 bool HoldsIcon(ByteSource& source) {
   ByteReader file(source);

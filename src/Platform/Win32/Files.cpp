@@ -106,20 +106,6 @@ class KeptSource : public records::ByteSource {
   OwnedFile file_;
   FileSource source_;
 };
-at.Offset = static_cast<DWORD>(place);
-at.OffsetHigh = static_cast<DWORD>(place >> 32);
-const auto piece = static_cast<DWORD>(std::min(size - done, kLargestPiece));
-DWORD count = 0;
-if (!ReadFile(file_.get(), buffer + done, piece, &count, &at) || count == 0) break;
-done += count;
-}
-return done;
-}
-
-private:
-OwnedFile file_;
-}
-;
 
 void WriteAll(HANDLE file, const char* data, std::size_t size) {
   for (std::size_t done = 0; done < size;) {

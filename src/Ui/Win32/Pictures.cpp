@@ -1,5 +1,7 @@
 #include "Ui/Win32/Pictures.h"
 
+#include "Platform/Platform.h"
+#include "Platform/Records/IconResource.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/ShortName.h"
@@ -28,9 +30,27 @@ HICON FromInside(const Text& name, int index) {
   return large;
 }
 
+// From a file that only the program itself can read.
+HICON FromImage(const Text& name, int pixels) {
+  constexpr DWORD kForm = 0x00030000;  // that of icons since Windows 3.0
+  const auto source = CurrentPlatform().OpenSource(name);
+  std::string image = source ? records::IconImage(*source, pixels) : std::string();
+  if (image.empty()) return nullptr;
+  return CreateIconFromResourceEx(reinterpret_cast<BYTE*>(image.data()),
+                                  static_cast<DWORD>(image.size()), TRUE, kForm, pixels, pixels,
+                                  LR_DEFAULTCOLOR);
+}
+
+bool IsOfFile(const Picture& picture) {
+  return picture.source == Picture::Source::kFile || picture.source == Picture::Source::kIconOf;
+}
+
 }  // namespace
 
 OwnedIcon LoadPicture(const Picture& picture, int pixels) {
+  if (IsOfFile(picture) && CurrentPlatform().IsInsideImage(picture.name)) {
+    return OwnedIcon(FromImage(picture.name, pixels));
+  }
   switch (picture.source) {
     case Picture::Source::kNone:
     case Picture::Source::kBitmap:

@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "Image/DiscPlatform.h"
+#include "Ui/Win32/Pictures.h"
 #include "WindowTest.h"
 #include "support/ExecutableBuilder.h"
 #include "support/IsoBuilder.h"
@@ -74,9 +75,34 @@ TEST_F(DiscImagesWindowTest, AnImageDroppedIsADriveThatIsExplored) {
       reinterpret_cast<LPARAM>(shown));
   EXPECT_EQ(FromWide(shown), u"e: [GRENIER 1997]");
   Push(form.Explorer);
+  form.ZoneDesTableaux.SetTab(1);
+  Rest();
   EXPECT_EQ(form.GridLogiciel(1).Cell(1, 0), u"Jeu de dames");
   EXPECT_EQ(form.IconeFichier.GetPicture().name, u"E:\\Jeux\\Dames.exe");
   TakePicture("image-deposee.png");
+}
+
+TEST_F(DiscImagesWindowTest, TheIconOfAProgramInsideAnImageIsDrawn) {
+  Drop(L"D:\\disque.iso");
+  const Picture inside{Picture::Source::kIconOf, u"E:\\JEUX\\DAMES.EXE", 0};
+  for (const int pixels : {16, 32, 48}) {
+    const win32::OwnedIcon icon = win32::LoadPicture(inside, pixels);
+    ASSERT_NE(icon.Get(), nullptr);
+    ICONINFO drawn = {};
+    ASSERT_TRUE(GetIconInfo(icon.Get(), &drawn));
+    const win32::OwnedBitmap colours(drawn.hbmColor), mask(drawn.hbmMask);
+    BITMAP bitmap = {};
+    GetObjectW(colours.Get(), sizeof bitmap, &bitmap);
+    EXPECT_EQ(bitmap.bmWidth, pixels);
+    EXPECT_EQ(bitmap.bmHeight, pixels);
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = SelectObject(dc, colours.Get());
+    EXPECT_EQ(GetPixel(dc, pixels / 2, pixels / 2), RGB(0xFF, 0xFF, 0)) << "a yellow disc";
+    SelectObject(dc, before);
+    DeleteDC(dc);
+  }
+  const Picture without{Picture::Source::kIconOf, u"E:\\JEUX\\DAMES.TXT", 0};
+  EXPECT_EQ(win32::LoadPicture(without, 32).Get(), nullptr);
 }
 
 TEST_F(DiscImagesWindowTest, TheMenuOfTheWindowHasTheEntry) {

@@ -114,9 +114,10 @@ FILETIME ToFileTime(const LocalTime& time) {
   return file;
 }
 
+// Others may have the file open to read.
 void WriteFileAt(const Text& name, std::string_view contents, const LocalTime& modified) {
-  const OwnedFile file = OwnFile(CreateFileW(Wide(name), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                             FILE_ATTRIBUTE_NORMAL, nullptr));
+  const OwnedFile file = OwnFile(CreateFileW(Wide(name), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                             CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   const FILETIME time = ToFileTime(modified);
   DWORD written = 0;
   if (!file ||
