@@ -9,6 +9,7 @@
 #include "Lib/LIB_STRING.h"
 #include "Resources/Strings.h"
 #include "System/COpSysInfo.h"
+#include "Ui/Directory.h"
 
 namespace trovex::LIB_SYSTEME {
 namespace {
@@ -25,12 +26,6 @@ std::optional<Text> DirectoryField(std::uint32_t (FilePort::*operation)(Text&, s
   if (length < kBuffer) buffer += u'\0';
   buffer.resize(kBuffer, u' ');
   return buffer;
-}
-
-// Of an empty name, too, unlike sAjouteBackslash.
-Text WithBackslash(Text sRepertoire) {
-  if (!sRepertoire.ends_with(u'\\')) sRepertoire += u'\\';
-  return sRepertoire;
 }
 
 Text TrimmedRight(Text sTexte) {

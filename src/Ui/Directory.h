@@ -7,7 +7,7 @@
 
 namespace trovex {
 
-// The directory with a final backslash.
+// The directory with a final backslash, which an empty one gets too.
 Text WithBackslash(TextView directory);
 // The directory without a final backslash, but for a root ("D:\").
 Text WithoutBackslash(TextView directory);

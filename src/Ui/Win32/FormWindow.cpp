@@ -6,6 +6,7 @@
 #include "Ui/Win32/Surface.h"
 #include "Ui/Win32/SystemMenu.h"
 #include "Ui/Win32/Win32View.h"
+#include "Ui/Win32/WindowClass.h"
 
 namespace trovex::win32 {
 namespace {
@@ -21,23 +22,10 @@ DWORD ExtendedStyleOf(const Form& form) {
   return form.Sizable() ? WS_EX_APPWINDOW : WS_EX_DLGMODALFRAME;
 }
 
-void RegisterOnce(WNDPROC procedure) {
-  static ATOM registered = 0;
-  if (registered != 0) return;
-  WNDCLASSEXW window_class = {};
-  window_class.cbSize = sizeof window_class;
-  window_class.lpfnWndProc = procedure;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hIcon = LoadIconW(window_class.hInstance, L"Trovex");
-  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  window_class.lpszClassName = kClass;
-  registered = RegisterClassExW(&window_class);
-}
-
 }  // namespace
 
 FormWindow::FormWindow(Form& form, Win32View& view) : form_(form), view_(view) {
-  RegisterOnce(Procedure);
+  RegisterWindowClass(kClass, Procedure, nullptr);
   background_ = CreateSolidBrush(GetShared().colours.Surface(form.BackColor()));
   CreateWindowOfForm();
 }

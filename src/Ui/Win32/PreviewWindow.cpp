@@ -5,6 +5,7 @@
 #include "Platform/Win32/Names.h"
 #include "Ui/Win32/Printing.h"
 #include "Ui/Win32/Win32View.h"
+#include "Ui/Win32/WindowClass.h"
 
 namespace trovex::win32 {
 namespace {
@@ -15,20 +16,6 @@ constexpr double kLeastPage = 3000;  // twips, of its height
 constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, from Windows 8.1 on
 const Font kButtonFont;
-
-void RegisterOnce(WNDPROC procedure) {
-  static ATOM registered = 0;
-  if (registered != 0) return;
-  WNDCLASSEXW window_class = {};
-  window_class.cbSize = sizeof window_class;
-  window_class.lpfnWndProc = procedure;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hIcon = LoadIconW(window_class.hInstance, L"Trovex");
-  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  window_class.lpszClassName = kClass;
-  registered = RegisterClassExW(&window_class);
-}
 
 int WidthOf(const Text& caption, HFONT font) {
   const HDC dc = GetDC(nullptr);
@@ -57,7 +44,7 @@ PreviewWindow::PreviewWindow(const Preview& preview, Win32View& view)
       view_(view),
       state_(preview.pages),
       painter_(preview.pages, view.GetShared().fonts, view.Measure()) {
-  RegisterOnce(Procedure);
+  RegisterWindowClass(kClass, Procedure, GetSysColorBrush(COLOR_BTNFACE));
   const Text& title = preview.pages.title;
   const Text caption = preview.texts.caption + (title.empty() ? Text() : u" - " + title) + u" - " +
                        preview.application;

@@ -1,6 +1,7 @@
 #include "Ui/Win32/PrintingBox.h"
 
 #include "Platform/Win32/Names.h"
+#include "Ui/Win32/WindowClass.h"
 
 namespace trovex::win32 {
 namespace {
@@ -12,19 +13,6 @@ constexpr Place kButton = {1725, 900, 1350, 405};
 
 PrintingBox* shown = nullptr;
 
-void RegisterOnce(WNDPROC procedure) {
-  static ATOM registered = 0;
-  if (registered != 0) return;
-  WNDCLASSEXW window_class = {};
-  window_class.cbSize = sizeof window_class;
-  window_class.lpfnWndProc = procedure;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  window_class.lpszClassName = kClass;
-  registered = RegisterClassExW(&window_class);
-}
-
 // In the middle of the owner.
 POINT Corner(HWND owner, SIZE size) {
   RECT around = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
@@ -35,7 +23,7 @@ POINT Corner(HWND owner, SIZE size) {
 }  // namespace
 
 PrintingBox::PrintingBox(HWND owner, const Texts& texts, Fonts& fonts) : owner_(owner) {
-  RegisterOnce(Procedure);
+  RegisterWindowClass(kClass, Procedure, GetSysColorBrush(COLOR_BTNFACE));
   Create(texts, fonts);
   owner_enabled_ = owner != nullptr && IsWindowEnabled(owner);
   if (owner_enabled_) EnableWindow(owner, FALSE);
