@@ -5,6 +5,7 @@
 
 #include "Image/FolderInHand.h"
 #include "Platform/Pattern.h"
+#include "Platform/SystemTexts.h"
 
 namespace trovex {
 
@@ -14,7 +15,9 @@ using image::Place;
 namespace {
 
 constexpr std::size_t kCopyBuffer = 65536;
-constexpr std::uint32_t kNotFound = 2;  // the code of both systems
+
+// Windows takes what follows as it stands.
+constexpr TextView kVerbatim = u"\\\\?\\";
 
 // Above every handle of a system.
 constexpr std::int64_t kFirstSearch = std::int64_t{1} << 58;
@@ -28,6 +31,11 @@ bool IsOurs(FindHandle handle) {
 
 bool IsSeparator(char16_t unit) {
   return unit == u'\\' || unit == u'/';
+}
+
+// Of a write.
+[[noreturn]] void Refuse() {
+  throw RuntimeError::OfSystem(ErrorNumber::kPermissionDenied, kSystemWriteProtected);
 }
 
 // The name of the program in a command line.
@@ -70,6 +78,22 @@ DiscPlatform::Name DiscPlatform::Resolve(TextView name) {
   return {drive, drive->FullName(name.substr(lettered ? 2 : 0))};
 }
 
+Text DiscPlatform::Beneath(Text name) {
+  const bool rooted = name.size() > 2 && name[1] == u':' && IsSeparator(name[2]);
+  if (rooted && DriveOf(name[0]) != nullptr) name.insert(0, kVerbatim);
+  return name;
+}
+
+// The same for an answer in a buffer.
+std::uint32_t DiscPlatform::Beneath(Text& buffer, std::uint32_t length, std::uint32_t size) {
+  Text name = Beneath(buffer);
+  if (name.size() == buffer.size()) return length;
+  const bool fits = name.size() < size;
+  length = static_cast<std::uint32_t>(name.size() + (fits ? 0 : 1));
+  buffer = fits ? std::move(name) : Text();
+  return length;
+}
+
 // --- Directory search ---------------------------------------------------------------------------
 
 FindHandle DiscPlatform::FindFirstFile(const Text& pattern, FindData& data) {
@@ -106,7 +130,7 @@ bool DiscPlatform::FindNextFile(FindHandle handle, FindData& data) {
   if (found->second.search.Advance(data)) return true;
   const bool whole = found->second.whole;
   searches_.erase(found);
-  if (!whole) throw RuntimeError(ErrorNumber::kDeviceIo);
+  if (!whole) throw RuntimeError::OfSystem(ErrorNumber::kDeviceIo, kSystemDeviceIo);
   return false;
 }
 
@@ -151,9 +175,10 @@ Reading DiscPlatform::GetFileProperties(const Text& file, FileStatus& status, st
 
 std::unique_ptr<image::FileContents> DiscPlatform::Open(const Name& name) {
   const Place place = Find(name);
-  if (!place.folder) throw RuntimeError(ErrorNumber::kPathNotFound);
-  if (place.missing) throw RuntimeError(ErrorNumber::kFileNotFound);
-  if (!place.number) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  if (!place.folder) throw RuntimeError::OfSystem(ErrorNumber::kPathNotFound, kSystemPathNotFound);
+  if (place.missing) throw RuntimeError::OfSystem(ErrorNumber::kFileNotFound, kSystemFileNotFound);
+  if (!place.number)
+    throw RuntimeError::OfSystem(ErrorNumber::kPathFileAccess, kSystemAccessDenied);
   return image::ContentsOf(*name.drive->GetDisc(), *place.folder, *place.number);
 }
 
@@ -163,7 +188,7 @@ FileHandle DiscPlatform::OpenRead(const Text& file) {
 }
 
 FileHandle DiscPlatform::OpenWrite(const Text& file) {
-  if (IsInsideImage(file)) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  if (IsInsideImage(file)) Refuse();
   return Target().OpenWrite(file);
 }
 
@@ -186,7 +211,7 @@ std::unique_ptr<records::ByteSource> DiscPlatform::OpenSource(const Text& file) 
 }
 
 void DiscPlatform::CopyFile(const Text& source, const Text& destination) {
-  if (IsInsideImage(destination)) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  if (IsInsideImage(destination)) Refuse();
   const Name name = Resolve(source);
   if (name.drive == nullptr) return Target().CopyFile(source, destination);
   CopyFrom(name, destination);
@@ -213,8 +238,18 @@ void DiscPlatform::CopyFrom(const Name& source, const Text& destination) {
 }
 
 void DiscPlatform::DeleteFile(const Text& file) {
-  if (IsInsideImage(file)) throw RuntimeError(ErrorNumber::kPermissionDenied);
+  if (IsInsideImage(file)) Refuse();
   Target().DeleteFile(file);
+}
+
+void DiscPlatform::PutInPlace(const Text& source, const Text& place) {
+  if (IsInsideImage(source) || IsInsideImage(place)) Refuse();
+  Target().PutInPlace(source, place);
+}
+
+bool DiscPlatform::MakeDirectory(const Text& directory) {
+  const Name name = Resolve(directory);
+  return name.drive == nullptr ? Target().MakeDirectory(directory) : Find(name).IsDirectory();
 }
 
 // --- Version records, profile files, icons -------------------------------------------------------
@@ -225,7 +260,7 @@ std::string DiscPlatform::RecordOf(const Name& name) {
   if (!place.IsFile()) return record;
   const image::Disc& disc = *name.drive->GetDisc();
   if (!image::ReadVersionRecord(disc, *place.folder, *place.number, record)) {
-    throw RuntimeError(ErrorNumber::kDeviceIo);
+    throw RuntimeError::OfSystem(ErrorNumber::kDeviceIo, kSystemDeviceIo);
   }
   return record;
 }
@@ -295,10 +330,22 @@ Text DiscPlatform::GetCurrentDirectory() {
   return drive == nullptr ? Target().GetCurrentDirectory() : drive->Current();
 }
 
+std::uint32_t DiscPlatform::GetWindowsDirectory(Text& buffer, std::uint32_t size) {
+  return Beneath(buffer, Target().GetWindowsDirectory(buffer, size), size);
+}
+
+std::uint32_t DiscPlatform::GetSystemDirectory(Text& buffer, std::uint32_t size) {
+  return Beneath(buffer, Target().GetSystemDirectory(buffer, size), size);
+}
+
 void DiscPlatform::ChangeDirectory(const Text& directory) {
+  if (directory.starts_with(kVerbatim)) {
+    return Target().ChangeDirectory(directory.substr(kVerbatim.size()));
+  }
   Name name = Resolve(directory);
   if (name.drive == nullptr) return Target().ChangeDirectory(directory);
-  if (!Find(name).IsDirectory()) throw RuntimeError(ErrorNumber::kPathNotFound);
+  if (!Find(name).IsDirectory())
+    throw RuntimeError::OfSystem(ErrorNumber::kPathNotFound, kSystemPathNotFound);
   name.drive->SetCurrent(std::move(name.full));
 }
 
@@ -333,7 +380,7 @@ int DiscPlatform::FindExecutable(const Text& file, const Text& directory, Text& 
 
 void DiscPlatform::StartProgram(const Text& command_line, int mode) {
   if (Resolve(ProgramOf(command_line)).drive != nullptr) {
-    throw RuntimeError(ErrorNumber::kPermissionDenied);
+    throw RuntimeError::OfSystem(ErrorNumber::kPermissionDenied, kSystemAccessDenied);
   }
   Target().StartProgram(command_line, mode);
 }

@@ -22,6 +22,10 @@ class DiscPlatform : public ForwardingPlatform {
   // From now on the letter (A to Z) is the disc's, a CD-ROM drive's.
   void Mount(char16_t letter, std::shared_ptr<image::Disc> disc);
 
+  // A name that leads beneath: on a drive that an image hides it gets the form "\\?\X:\...", which
+  // is never the image's. Any other name stays as it is.
+  Text Beneath(Text name);
+
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool FindNextFile(FindHandle handle, FindData& data) override;
   void FindClose(FindHandle handle) override;
@@ -35,6 +39,8 @@ class DiscPlatform : public ForwardingPlatform {
   std::unique_ptr<records::ByteSource> OpenSource(const Text& name) override;
   void CopyFile(const Text& source, const Text& destination) override;
   void DeleteFile(const Text& name) override;
+  void PutInPlace(const Text& source, const Text& place) override;
+  bool MakeDirectory(const Text& name) override;
 
   std::uint32_t GetFileVersionInfoSize(const Text& name) override;
   bool GetFileVersionInfo(const Text& name, std::uint32_t length, std::string& block) override;
@@ -50,6 +56,16 @@ class DiscPlatform : public ForwardingPlatform {
   Text GetCurrentDirectory() override;
   void ChangeDirectory(const Text& directory) override;
   void ChangeDrive(const Text& drive) override;
+  std::uint32_t GetWindowsDirectory(Text& buffer, std::uint32_t size) override;
+  std::uint32_t GetSystemDirectory(Text& buffer, std::uint32_t size) override;
+  Text GetProgramDirectory() override { return Beneath(Target().GetProgramDirectory()); }
+  Text GetApplicationDataDirectory() override {
+    return Beneath(Target().GetApplicationDataDirectory());
+  }
+  // Directories are all that the program asks for.
+  Text GetEnvironmentVariable(const Text& name) override {
+    return Beneath(Target().GetEnvironmentVariable(name));
+  }
 
   bool IsInsideImage(const Text& name) override;
   int ShellExecute(const Text& verb, const Text& file, const Text& parameters,
@@ -72,6 +88,7 @@ class DiscPlatform : public ForwardingPlatform {
   FindHandle Begin(const image::Folder& folder, TextView pattern, FindData& data);
   std::string RecordOf(const Name& name);
   void CopyFrom(const Name& source, const Text& destination);
+  std::uint32_t Beneath(Text& buffer, std::uint32_t length, std::uint32_t size);
 
   std::map<char16_t, image::Drive> drives_;
   char16_t current_ = 0;  // the current drive, if it is one of these

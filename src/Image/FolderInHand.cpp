@@ -6,6 +6,7 @@
 #include "Platform/Records/IconResource.h"
 #include "Platform/Records/ProfileFile.h"
 #include "Platform/Records/VersionResource.h"
+#include "Platform/SystemTexts.h"
 
 namespace trovex::image {
 namespace {
@@ -69,9 +70,9 @@ std::uint32_t NoProfileString(const Text& fallback, Text& buffer, std::uint32_t 
 std::unique_ptr<FileContents> ContentsOf(const Disc& disc, const Folder& folder,
                                          std::size_t number) {
   const bool is_directory = (folder.directory->At(number).flags & kRecordDirectory) != 0;
-  if (is_directory) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  if (is_directory) throw RuntimeError::OfSystem(ErrorNumber::kPathFileAccess, kSystemAccessDenied);
   auto contents = disc.OpenFile(folder, number);
-  if (!contents) throw RuntimeError(ErrorNumber::kDeviceIo);
+  if (!contents) throw RuntimeError::OfSystem(ErrorNumber::kDeviceIo, kSystemDeviceIo);
   return contents;
 }
 

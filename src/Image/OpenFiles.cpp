@@ -1,5 +1,7 @@
 #include "Image/OpenFiles.h"
 
+#include "Platform/SystemTexts.h"
+
 namespace trovex::image {
 namespace {
 
@@ -22,11 +24,12 @@ bool OpenFiles::IsOurs(FileHandle handle) {
 
 std::size_t OpenFiles::Read(FileHandle handle, void* buffer, std::size_t size) {
   const auto found = files_.find(handle);
-  if (found == files_.end()) throw RuntimeError(ErrorNumber::kDeviceIo);
+  if (found == files_.end()) throw RuntimeError::OfSystem(ErrorNumber::kDeviceIo, kSystemDeviceIo);
   Reader& reader = found->second;
   const std::size_t got = reader.contents->ReadAt(reader.place, static_cast<char*>(buffer), size);
   const bool more = reader.place + got < reader.contents->Length();
-  if (got == 0 && size > 0 && more) throw RuntimeError(ErrorNumber::kDeviceIo);
+  if (got == 0 && size > 0 && more)
+    throw RuntimeError::OfSystem(ErrorNumber::kDeviceIo, kSystemDeviceIo);
   reader.place += got;
   return got;
 }

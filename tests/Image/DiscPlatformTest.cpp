@@ -45,6 +45,29 @@ TEST_F(DiscDrives, HideADriveOfTheSameLetter) {
   EXPECT_TRUE(platform_.GetFileStatus(u"D:\\SETUP.EXE", status));
 }
 
+TEST_F(DiscDrives, LeaveAWayToTheDriveThatTheyHide) {
+  platform_.Mount(u'd', Open(SmallDisc().Build(IsoFormat::kPlain)).disc);
+  EXPECT_EQ(platform_.Beneath(u"D:\\SEUL.TXT"), u"\\\\?\\D:\\SEUL.TXT");
+  EXPECT_EQ(platform_.Beneath(u"C:\\SEUL.TXT"), u"C:\\SEUL.TXT");
+  EXPECT_EQ(platform_.Beneath(u"SEUL.TXT"), u"SEUL.TXT");
+  EXPECT_FALSE(platform_.IsInsideImage(u"\\\\?\\D:\\SEUL.TXT"));
+}
+
+TEST_F(DiscDrives, DirectoriesOfTheSystemAreNotTheirs) {
+  Text before, after;
+  disc_.GetPlatform().GetWindowsDirectory(before, 200);
+  platform_.Mount(before[0], Open(SmallDisc().Build(IsoFormat::kPlain)).disc);
+  EXPECT_EQ(platform_.GetWindowsDirectory(after, 200), before.size() + 4);
+  EXPECT_EQ(after, u"\\\\?\\" + before);
+  const auto size = static_cast<std::uint32_t>(before.size() + 4);
+  EXPECT_EQ(platform_.GetWindowsDirectory(after, size), size + 1);
+  EXPECT_EQ(after, u"");
+  EXPECT_EQ(platform_.GetWindowsDirectory(after, size + 1), size);
+  disc_.GetPlatform().GetSystemDirectory(before, 200);
+  platform_.GetSystemDirectory(after, 200);
+  EXPECT_EQ(after, u"\\\\?\\" + before);
+}
+
 TEST_F(DiscDrives, HaveACurrentDirectoryEach) {
   EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\");
   platform_.ChangeDirectory(u"E:\\JEUX\\");
@@ -71,6 +94,10 @@ TEST_F(DiscDrives, TakeNothingThatIsWritten) {
   EXPECT_EQ(ErrorOf([&] { platform_.OpenWrite(u"E:\\SETUP.EXE"); }), denied);
   EXPECT_EQ(ErrorOf([&] { platform_.DeleteFile(u"E:\\SETUP.EXE"); }), denied);
   EXPECT_EQ(ErrorOf([&] { platform_.CopyFile(u"D:\\A.TXT", u"E:\\A.TXT"); }), denied);
+  EXPECT_EQ(ErrorOf([&] { platform_.PutInPlace(u"D:\\A.TXT", u"E:\\SETUP.EXE"); }), denied);
+  EXPECT_EQ(ErrorOf([&] { platform_.PutInPlace(u"E:\\SETUP.EXE", u"D:\\A.TXT"); }), denied);
+  EXPECT_FALSE(platform_.MakeDirectory(u"E:\\NEUF"));
+  EXPECT_TRUE(platform_.MakeDirectory(u"E:\\JEUX"));
   EXPECT_FALSE(platform_.WritePrivateProfileString(u"A", u"x", u"1", u"E:\\SETUP.INI"));
 }
 

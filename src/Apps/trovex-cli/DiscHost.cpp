@@ -27,10 +27,14 @@ class ImageHost : public Host {
 
   Platform& GetPlatform() override { return platform_; }
   Text Start() override { return {drive_, u':', u'\\'}; }
-  Text NameOf(const std::string& argument) override { return host_->NameOf(argument); }
+  Text NameOf(const std::string& argument) override {
+    return platform_.Beneath(host_->NameOf(argument));
+  }
   Text InstalledSettings() override { return host_->InstalledSettings(); }
   // What lies inside the image stands behind its name.
   std::string UserNameOf(const Text& name) override {
+    constexpr TextView kVerbatim = u"\\\\?\\";  // before a name on the drive that the image hides
+    if (name.starts_with(kVerbatim)) return host_->UserNameOf(name.substr(kVerbatim.size()));
     const bool inside = name.size() >= 2 && ToUpper(name[0]) == drive_ && name[1] == u':';
     return inside ? given_ + ": " + ToUtf8(name) : host_->UserNameOf(name);
   }

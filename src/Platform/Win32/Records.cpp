@@ -70,6 +70,11 @@ bool WriteLongNamed(Platform& platform, const Text& section, const Text& key, co
   return false;
 }
 
+// The system's own functions take no such name.
+bool IsBeyondProfiles(const Text& file) {
+  return file.size() >= MAX_PATH || file.starts_with(u"\\\\?\\");
+}
+
 }  // namespace
 
 std::uint32_t Win32Platform::GetFileVersionInfoSize(const Text& name) {
@@ -102,7 +107,7 @@ Reading Win32Platform::GetFileProperties(const Text& name, FileStatus& status,
 std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const Text& key,
                                                      const Text& fallback, Text& buffer,
                                                      std::uint32_t size, const Text& file) {
-  if (file.size() >= MAX_PATH) {
+  if (IsBeyondProfiles(file)) {
     return records::ProfileAnswer(ProfileBytes(*this, file), section, key, fallback, buffer, size);
   }
   const Unredirected unredirected;
@@ -115,7 +120,7 @@ std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const 
 
 bool Win32Platform::WritePrivateProfileString(const Text& section, const Text& key,
                                               const Text& value, const Text& file) {
-  if (file.size() >= MAX_PATH) return WriteLongNamed(*this, section, key, value, file);
+  if (IsBeyondProfiles(file)) return WriteLongNamed(*this, section, key, value, file);
   return WritePrivateProfileStringW(Wide(section), Wide(key), Wide(value), Wide(file)) != 0;
 }
 
