@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "Lib/Dialogs.h"
+#include "Lib/FichesUnicode.h"
 #include "Lib/Graphics.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_INI.h"
@@ -101,7 +102,7 @@ void OptionsHTML::BindDependents() {
 void OptionsHTML::Form_Load() {
   CurrentView().SetPointer(Pointer::kHourglass);
   CenterForm(*this);
-  if (bFichierExiste(sFichierIni)) ReadSettings();
+  if (bAutresReglages(sFichierIni)) ReadSettings();
 }
 
 void OptionsHTML::Form_Unload() {

@@ -50,6 +50,7 @@ const std::unordered_map<StringId, Text>& Table() {
       {StringId::kExplorationRepertoire, u"Exploration du répertoire : "},
       {StringId::kRepertoireIntrouvable, u"Répertoire introuvable"},
       {StringId::kOctets, u"octets"},
+      {StringId::kLireFichesUnicode, u"Lire les fiches de version Unicode"},
       {StringId::kPasDeNomProduit, u"Ne contient pas de nom produit."},
       {StringId::kProgrammeAmorcage, u"Programme d'amorçage"},
       {StringId::kMsSetup, u"MS-Setup"},

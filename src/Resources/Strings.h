@@ -49,6 +49,7 @@ enum class StringId : int {
   kExplorationRepertoire = 310,
   kOctets = 311,
   kRepertoireIntrouvable = 316,
+  kLireFichesUnicode = 416,
   kPasDeNomProduit = 312,
   kProgrammeAmorcage = 313,
   kMsSetup = 314,

@@ -5,6 +5,7 @@
 #include "Lib/LIB_STRING.h"
 #include "Platform/Unread.h"
 #include "Resources/Strings.h"
+#include "Scanner/Finding.h"
 #include "Scanner/TROVEX_MAIN.h"
 #include "Scanner/zFileInfo.h"
 
@@ -23,6 +24,8 @@ constexpr int kDecoration = 10;                  // characters in a row that mak
 // Tools of installers, which have no row in any table.
 constexpr TextView kTools[] = {u"_ISDEL.EXE", u"_ISETUP.EXE", u"_MSSETUP.EXE", u"_MSTEST.EXE",
                                u"EXPAND.EXE"};
+
+FindingListener finding_listener;
 
 bool IsTool(const Text& sFichier) {
   return std::any_of(std::begin(kTools), std::end(kTools),
@@ -52,23 +55,32 @@ class Analysis {
     if (bDecrire && beside_.IsFirst(sFichier_)) beside_.PutFirstRecord(oInfo_.Record());
     PlaceRow();
     if (bDecrire) Describe();
+    if (IsArchive() && finding_listener) sDescriptif_ = Current();
     PutSizeOrVersion();
     CleanDescription();
     FillVersion();
+    if (finding_listener) Tell();
   }
 
  private:
   const Text& Current() const { return grid_.GetText(); }
   void Put(TextView sTexte) { grid_.SetText(sTexte); }
   void Put(Text&& sTexte) { grid_.TakeText(std::move(sTexte)); }
+  template <typename T>
+  void Put(T&& sTexte, const Origin& origin) {
+    Put(std::forward<T>(sTexte));
+    origin_ = origin;
+  }
   bool IsArchive() const { return bArchive_; }
 
   // An archive shows its size, whatever its description: that is looked for only where a file
   // beside it may turn out to be unreadable, which is reported all the same.
-  bool NeedsDescription() const { return !IsArchive() || beside_.HasDescription(); }
+  bool NeedsDescription() const {
+    return !IsArchive() || finding_listener || beside_.HasDescription();
+  }
 
   void Describe() {
-    Put(Shortened(oInfo_.zDescription()));
+    Put(Shortened(oInfo_.zDescription()), {Origin::Kind::kVersionRecord});
     ReadInstallerFiles();
     if (Current().empty()) ReadTextFiles();
     const TextView trimmed = Trimmed(Current());
@@ -98,7 +110,7 @@ class Analysis {
       // SETUP.LST is absent here, so this never fills the text; SETUP.INI has its turn later.
       PutIniIfEmpty(u"Startup", u"AppName", Source::kSetupLst);
     } else if (beside_.Has(Source::kInstallInf)) {
-      if (Current().empty()) Put(Ini(u"INSTALL", u"APPNAME", Source::kInstallInf));
+      if (Current().empty()) PutIni(u"INSTALL", u"APPNAME", Source::kInstallInf);
     }
   }
 
@@ -109,11 +121,17 @@ class Analysis {
     }
   }
 
-  Text Ini(const Text& sSection, const Text& sCle, Source source) {
-    return beside_.Ini(source).sLitIni(sSection, sCle, {});
+  // Section and key are literals: they outlive the analysis.
+  void PutIni(TextView sSection, TextView sCle, Source source) {
+    Put(beside_.Ini(source).sLitIni(Text(sSection), Text(sCle), {}),
+        {Origin::Kind::kSetting, NameOf(source), sSection, sCle});
   }
-  void PutIniIfEmpty(const Text& sSection, const Text& sCle, Source source) {
-    if (Current().empty()) Put(Trimmed(Ini(sSection, sCle, source)));
+  void PutIniTrimmed(TextView sSection, TextView sCle, Source source) {
+    PutIni(sSection, sCle, source);
+    Put(Trim(Current()));
+  }
+  void PutIniIfEmpty(TextView sSection, TextView sCle, Source source) {
+    if (Current().empty()) PutIniTrimmed(sSection, sCle, source);
   }
 
   // --- Text files: one branch in each pass, by which file exists ---
@@ -126,7 +144,7 @@ class Analysis {
     } else if (beside_.Has(Source::kReadme)) {
       PutLines(Source::kReadme, kCut, kCut);
     } else if (!IsArchive()) {
-      Put(beside_.FirstProduct());
+      Put(beside_.FirstProduct(), {Origin::Kind::kProductName, beside_.First()});
     }
   }
 
@@ -134,7 +152,7 @@ class Analysis {
     if (beside_.Has(Source::kFileIdDiz)) {
       PutLines(Source::kFileIdDiz, kCut, kLongestLine);
     } else if (beside_.Has(Source::kSetupIni)) {
-      Put(Trimmed(Ini(u"Startup", u"AppName", Source::kSetupIni)));
+      PutIniTrimmed(u"Startup", u"AppName", Source::kSetupIni);
     } else {
       for (const Source source : {Source::kLisezMoi, Source::kReadme, Source::kInstallTxt}) {
         if (beside_.Has(source)) return PutLines(source, kCut, kCut);
@@ -146,12 +164,15 @@ class Analysis {
   // characters.
   void PutLines(Source source, std::size_t iPremiere, std::size_t iDeuxieme) {
     TextLines& lines = beside_.Lines(source);
-    PutLine(lines.sPremiereLigne(iPremiere));
+    PutLine(lines.sPremiereLigne(iPremiere), source, 1);
     CheckLine();
-    if (Current().empty()) PutLine(lines.sDeuxiemeLigne(iDeuxieme));
+    if (Current().empty()) PutLine(lines.sDeuxiemeLigne(iDeuxieme), source, 2);
   }
 
-  void PutLine(const Text& sLigne) { Put(Trimmed(sChangeCaractere(sLigne, u"\t", u" "))); }
+  void PutLine(const Text& sLigne, Source source, int iLigne) {
+    Put(Trimmed(sChangeCaractere(sLigne, u"\t", u" ")),
+        {Origin::Kind::kLine, NameOf(source), {}, {}, iLigne});
+  }
 
   // Blanks a decorated line whole, so that the caller goes on to its next source.
   void CheckLine() {
@@ -185,7 +206,8 @@ class Analysis {
   void CleanDescription() {
     CheckLine();
     if (!IsBlankOrZero()) return;
-    Put(IsArchive() ? oInfo_.zSizeKo() : Shortened(oInfo_.zDescription()));
+    if (IsArchive()) return Put(oInfo_.zSizeKo());
+    Put(Shortened(oInfo_.zDescription()), {Origin::Kind::kVersionRecord});
   }
 
   // The second line of logiciel.txt, such as "Version : 1.2", stands in for a missing version.
@@ -196,14 +218,37 @@ class Analysis {
     Put(sDroiteDe(sDroiteDe(sLigne, u":"), u" "));
   }
 
+  // --- What a listener is told ---
+
+  // Where a text came from; one that says nothing comes from nowhere.
+  Origin OriginOf(const Text& sTexte) const {
+    const bool none = origin_.kind == Origin::Kind::kProductName &&
+                      sTexte == ResString(StringId::kPasDeNomProduit);
+    return sTexte.empty() || none ? Origin() : origin_;
+  }
+
+  void Tell() const {
+    const int iLigne = grid_.Row();
+    const Text sTexte = IsArchive() ? sDescriptif_ : grid_.Cell(iLigne, kColDescription);
+    const Text sVersion = IsArchive() ? oInfo_.zVersion() : grid_.Cell(iLigne, kColVersion);
+    finding_listener({NumberOf(grid_), beside_.Directory().Name(), sFichier_, sTexte,
+                      OriginOf(sTexte), sVersion, oInfo_});
+  }
+
   Grid& grid_;
   Surroundings& beside_;
   const Text& sFichier_;
   const bool bArchive_;
   zFileInfo oInfo_;
+  Origin origin_;     // of the description in the cell
+  Text sDescriptif_;  // of an archive, for the listener
 };
 
 }  // namespace
+
+void RegisterFindingListener(FindingListener listener) {
+  finding_listener = std::move(listener);
+}
 
 void AnalyserFichier(Grid& grid, Surroundings& beside, const Text& sFichier) {
   if (IsTool(sFichier)) return;

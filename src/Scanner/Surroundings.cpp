@@ -11,6 +11,10 @@ constexpr TextView kNames[] = {u"SETUP.LST",    u"SETUP.INI",  u"INSTALL.INF", u
 
 }  // namespace
 
+TextView NameOf(Source source) {
+  return kNames[static_cast<std::size_t>(source)];
+}
+
 Surroundings::Surroundings(const Folder& folder, const Text& first)
     : folder_(folder), first_(first) {
   static_assert(std::size(kNames) == kSources);

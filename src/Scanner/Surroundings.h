@@ -24,6 +24,9 @@ enum class Source {
   kCount
 };
 
+// "SETUP.LST", "file_id.diz"; the text lives for ever.
+TextView NameOf(Source source);
+
 class Surroundings {
  public:
   // `first` is the first name that the list of the directory's programs shows. Both must outlive
@@ -42,6 +45,7 @@ class Surroundings {
   // The product of the first file listed, whichever is being analysed. Its record is taken from
   // whoever has read it, if it was read.
   const Text& FirstProduct();
+  const Text& First() const { return first_; }
   bool IsFirst(TextView file) const { return file == first_; }
   void PutFirstRecord(const std::string& record) { first_record_ = record; }
 

@@ -1,10 +1,12 @@
 #include "Scanner/TextLines.h"
 
+#include "Lib/FichesUnicode.h"
 #include "Lib/FileNumbers.h"
 #include "Lib/LIB_FILE.h"
 #include "Platform/Encoding.h"
 #include "Resources/Strings.h"
 #include "Scanner/VersionRecord.h"
+#include "Scanner/WideRecord.h"
 
 namespace trovex {
 
@@ -55,7 +57,9 @@ void TextLines::Rewind() {
 Text vNomProduit(std::string_view record) {
   constexpr std::size_t kOffset = 12;  // the key, its NUL and no padding
   const auto value = BehindKey(record, "ProductName", kOffset);
-  return value ? FromCp1252(*value) : ResString(StringId::kPasDeNomProduit);
+  if (value) return FromCp1252(*value);
+  const auto wide = bFichesUnicode() ? ValueInWideRecord(record, u"ProductName") : std::nullopt;
+  return wide ? *wide : ResString(StringId::kPasDeNomProduit);
 }
 
 }  // namespace trovex

@@ -1,8 +1,10 @@
 #include "Scanner/zFileInfo.h"
 
+#include "Lib/FichesUnicode.h"
 #include "Lib/LIB_FILE.h"
 #include "Platform/Encoding.h"
 #include "Scanner/VersionRecord.h"
+#include "Scanner/WideRecord.h"
 
 namespace trovex {
 namespace {
@@ -67,6 +69,7 @@ Text zFileInfo::FromRecord(Field field) const {
     if (key.field != field) continue;
     const auto value = BehindKey(record_, key.name, key.offset);
     if (value) return FromCp1252(value->substr(0, value->find('\0')));
+    if (bFichesUnicode()) return ValueInWideRecord(record_, FromCp1252(key.name)).value_or(Text());
   }
   return {};
 }

@@ -19,6 +19,9 @@ class zFileInfo {
   // The version record that was read, empty if none was.
   const std::string& Record() const { return record_; }
 
+  // Length and date as numbers; nothing where the file could not be measured.
+  const std::optional<FileStatus>& Status() const { return status_; }
+
   // Each field has a getter and a setter of its own name; all are empty texts at first.
   Text zSize() const { return Get(kSize); }  // bytes in the picture "### ### ###"
   void zSize(Text value) { Put(kSize, std::move(value)); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Lib/Dialogs.h"
+#include "Lib/FichesUnicode.h"
 #include "Lib/FileNumbers.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_INI.h"
@@ -50,6 +51,7 @@ Text sFichierTemp;
 void InitApplication() {
   CurrentView().SetPointer(Pointer::kHourglass);
   ChoisitFichierIni();
+  LitFichesUnicode();
   InitAssociations();
   ChooseTemporaryFile();
   Lib_Form();

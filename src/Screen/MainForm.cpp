@@ -33,7 +33,8 @@ MainForm::MainForm()
       ListFichier(Get<ListBox>(u"ListFichier")),
       ImageSelect(Get<PictureBox>(u"ImageSelect")),
       PanelAide(Get<StatusBar>(u"PanelAide")),
-      OuvrirImage(AddMenuEntry(ResString(StringId::kOuvrirImage))) {
+      OuvrirImage(AddMenuEntry(ResString(StringId::kOuvrirImage))),
+      LireFichesUnicode(AddMenuEntry(ResString(StringId::kLireFichesUnicode))) {
   for (int i = 0; i < kTableCount; ++i) {
     grids_[static_cast<std::size_t>(i)] = &Get<Grid>(u"GridLogiciel", i);
   }
@@ -76,6 +77,7 @@ void MainForm::BindEvents() {
   CommandOption.on_click = [] { CommandOption_Click(); };
   Apropos.on_click = [this] { Apropos_Click(*this); };
   Quitter.on_click = [this] { Unload(); };
+  LireFichesUnicode.on_click = [this] { LireFichesUnicode_Click(*this); };
   ZoneDesTableaux.on_tab_click = [this](int) { ZoneDesTableaux_Click(*this); };
   ListFichier.on_click = [this] { ListFichier_Click(*this); };
   ListFichier.on_dbl_click = [this] { ListFichier_DblClick(*this); };

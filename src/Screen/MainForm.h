@@ -55,6 +55,7 @@ class MainForm : public Form {
   PictureBox& ImageSelect;
   StatusBar& PanelAide;
   MenuEntry& OuvrirImage;  // in the window's menu
+  MenuEntry& LireFichesUnicode;  // likewise
 
  private:
   void BindEvents();

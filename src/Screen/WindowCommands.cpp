@@ -1,6 +1,7 @@
 #include "Screen/WindowCommands.h"
 
 #include "Html/Lib_OptionsHTML.h"
+#include "Lib/FichesUnicode.h"
 #include "Lib/Graphics.h"
 #include "Lib/LIB_BUSY.h"
 #include "Lib/LIB_DIALOGUE.h"
@@ -31,6 +32,7 @@ void Form_Load(MainForm& form) {
   CenterForm(form);
   form.SetCaption(ResString(StringId::kNomProgramme) + u" " + Text(kVersionNumbers) + u" : " +
                   ResString(StringId::kRechercheLes));
+  form.LireFichesUnicode.SetChecked(bFichesUnicode());
   form.InitTitresTableaux();
   Form_Resize(form);
 }
@@ -70,6 +72,11 @@ void Apropos_Click(MainForm& form) {
   BusyOn();
   AfficheAbout(ResString(StringId::kNomProgramme), u"v" + Text(kVersionNumbers), form.ImageAppli,
                ResString(StringId::kVersion32Bits));
+}
+
+void LireFichesUnicode_Click(MainForm& form) {
+  EnregistreFichesUnicode(!bFichesUnicode());
+  form.LireFichesUnicode.SetChecked(bFichesUnicode());
 }
 
 void ListeDrive_Change(MainForm& form) {

@@ -14,5 +14,7 @@ void ListeDrive_Change(MainForm& form);
 void UpdateDrives(MainForm& form);
 void CommandOption_Click();
 void Apropos_Click(MainForm& form);
+// Turns the choice to read version records in 16-bit characters, for the next scan and click.
+void LireFichesUnicode_Click(MainForm& form);
 
 }  // namespace trovex

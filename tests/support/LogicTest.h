@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Lib/FichesUnicode.h"
 #include "Lib/FileNumbers.h"
 #include "Lib/LIB_FILE.h"
 #include "Lib/LIB_INI.h"
@@ -41,6 +42,7 @@ class LogicTest : public ::testing::Test {
     sRepertoireTemp.clear();
     sDernierNomTemp.clear();
     sDernierFichierIni.clear();
+    ChoisitFichesUnicode(false);
   }
 
   ViewScope view_scope_;

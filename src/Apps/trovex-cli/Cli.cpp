@@ -11,7 +11,8 @@
 #include "Apps/trovex-cli/GivenNames.h"
 #include "Apps/trovex-cli/Incomplete.h"
 #include "Apps/trovex-cli/Options.h"
-#include "Lib/LIB_INI.h"
+#include "Apps/trovex-cli/Progress.h"
+#include "Apps/trovex-cli/Report.h"
 #include "Lib/Lib_SelectDlg.h"
 #include "Paper/SavePdf.h"
 #include "Platform/Encoding.h"
@@ -27,51 +28,6 @@
 
 namespace trovex::cli {
 namespace {
-
-// Shows the directory in hand on the terminal's last line, and error boxes on lines of their own.
-class Progress {
- public:
-  Progress(HeadlessView& view, const GivenNames& names, std::ostream& err, bool shown)
-      : names_(names), err_(err), shown_(shown) {
-    view.on_repaint = [this](Control& control) { OnRepaint(control); };
-    view.on_box = [this](const Box& box) { OnBox(box); };
-  }
-  ~Progress() { ClearLine(); }
-
- private:
-  static constexpr std::size_t kLineWidth = 78;
-
-  void OnRepaint(Control& control) {
-    if (!shown_ || control.Kind() != ControlKind::kStatusBar) return;
-    const Text& text = static_cast<StatusBar&>(control).PanelText(u"Msg");
-    ClearLine();
-    err_ << Printable(TextView(text).substr(0, kLineWidth)) << std::flush;
-    line_used_ = !text.empty();
-  }
-
-  void OnBox(const Box& box) {
-    if (box.style != BoxStyle::kErreur) return;
-    ClearLine();
-    err_ << "trovex-cli: " << Printable(OneLine(names_.PutInto(box.text))) << '\n';
-  }
-
-  static Text OneLine(Text text) {
-    for (char16_t& unit : text) {
-      if (unit == u'\r' || unit == u'\n') unit = u' ';
-    }
-    return text;
-  }
-
-  void ClearLine() {
-    if (line_used_) err_ << "\r\x1B[K" << std::flush;
-    line_used_ = false;
-  }
-
-  const GivenNames& names_;
-  std::ostream& err_;
-  bool shown_;
-  bool line_used_ = false;
-};
 
 int Complain(std::ostream& err, const std::string& complaint) {
   err << complaint << '\n';
@@ -98,7 +54,7 @@ class Session {
   int Work(const Text& start, std::ostream& out) {
     MainForm form;
     Main(form);
-    if (options_.ini || !ini_.empty()) sFichierIni = ini_;
+    UseSettings(options_, ini_);
     form.ListeRepertoire.SetPath(start);
     form.Explorer.Press();
     std::optional<Inspection> inspection;
@@ -208,11 +164,6 @@ class Session {
   const Text ascii_[3];  // in the order of the choices; empty where there is no export
 };
 
-std::string MessageOf(const RuntimeError& error) {
-  return "trovex-cli: erreur d'exécution " + std::to_string(error.Number()) + " : " +
-         Printable(error.Description()) + " (" + Printable(error.Source()) + ")";
-}
-
 int RunOn(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
           bool err_is_terminal) {
   const Parsed parsed = ParseArguments(arguments);
@@ -221,8 +172,10 @@ int RunOn(const std::vector<std::string>& arguments, std::ostream& out, std::ost
     return parsed.exit_status;
   }
   const Options& options = *parsed.options;
+  if (options.report) return Report(options, err, err_is_terminal);
   std::string complaint;
-  const auto host = OpenDisc(options.directory, static_cast<char16_t>(options.drive), complaint);
+  const auto host =
+      OpenDisc(options.discs.front(), static_cast<char16_t>(options.drive), complaint);
   if (!host) return Complain(err, complaint);
   if (!complaint.empty()) err << complaint << '\n';
 

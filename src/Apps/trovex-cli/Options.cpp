@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "Apps/trovex-cli/ReportLines.h"
 #include "Resources/Version.h"
 
 namespace trovex::cli {
@@ -29,6 +30,24 @@ std::string OneLine(std::string text) {
   return text;
 }
 
+// What does not go together; empty where all does.
+std::string Objection(const Options& options) {
+  // A directory whose name looks like an option can be written with "./" in front.
+  for (std::size_t i = 1; i < options.discs.size(); ++i) {
+    if (options.discs[i].starts_with('-')) return "there is no option " + options.discs[i];
+  }
+  if (!options.report) {
+    if (options.hash) return "--hash goes with --report only";
+    if (options.discs.size() == 1) return {};
+    return options.discs[1] + ": several discs go with --report only";
+  }
+  if (FormOf(*options.report) == ReportForm::kNone) return "--report: FILE ends in .csv or .jsonl";
+  const bool other = options.json || options.inspect || options.html || options.csv ||
+                     options.prn || options.txt || options.pdf || options.table ||
+                     options.drop_drive;
+  return other ? "--report goes with no other output" : std::string();
+}
+
 }  // namespace
 
 Parsed ParseArguments(const std::vector<std::string>& arguments) {
@@ -36,10 +55,12 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
       "Catalogues the software on DISC: install procedures, other executables, ZIP archives.",
       "trovex-cli"};
   Options options;
-  std::string drive = "D";
-  app.add_option("DISC", options.directory,
-                 "The directory or disc image (.iso, .bin, .cue, .img, .mdf...) to catalogue")
+  std::string drive = "D", disc;
+  app.add_option("DISC", disc,
+                 "The directory or disc image (.iso, .bin, .cue, .img, .mdf...) to catalogue; "
+                 "several with --report")
       ->required();
+  app.allow_extras();  // the other discs
   app.add_option("--drive", drive, "DISC is the root of this drive (on Windows: an image)")
       ->type_name("L")
       ->default_str("D")
@@ -68,6 +89,14 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
       ->type_name("N")
       ->check(CLI::Range(0, 2));
   app.add_flag("--drop-drive", options.drop_drive, "The HTML export leaves out the drive letter");
+  app.add_option("--report", options.report,
+                 "One row an entry over all of several discs; FILE ends in .csv or .jsonl")
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckNotEmpty, "", "name"));
+  app.add_flag("--hash", options.hash,
+               "Adds SHA-1 to the report, and writes FILE with the ending .sha1");
+  app.add_flag("--unicode-records", options.unicode_records,
+               "Reads version records in 16-bit characters, too");
   app.add_flag("--quiet", options.quiet, "No tables, no progress");
   app.set_version_flag("--version", std::string(kProgramName) + " " + kVersionText);
 
@@ -81,6 +110,10 @@ Parsed ParseArguments(const std::vector<std::string>& arguments) {
   } catch (const CLI::ParseError& error) {
     return {std::nullopt, kUsageError, "trovex-cli: " + OneLine(error.what()) + "\n"};
   }
+  options.discs = app.remaining();
+  options.discs.insert(options.discs.begin(), disc);
+  const std::string objection = Objection(options);
+  if (!objection.empty()) return {std::nullopt, kUsageError, "trovex-cli: " + objection + "\n"};
   options.drive = static_cast<char>(std::toupper(static_cast<unsigned char>(drive[0])));
   return {options, 0, {}};
 }

@@ -8,7 +8,7 @@
 namespace trovex::cli {
 
 struct Options {
-  std::string directory;
+  std::vector<std::string> discs;  // one, or with a report any number
   char drive = 'D';
   std::optional<std::string> start;
   std::optional<std::string> ini;   // a file name of the host's
@@ -21,6 +21,9 @@ struct Options {
   bool drop_drive = false;
   bool json = false;
   bool inspect = false;
+  std::optional<std::string> report;
+  bool hash = false;
+  bool unicode_records = false;
   bool quiet = false;
 };
 

@@ -1,0 +1,193 @@
+#include "Scanner/WideRecord.h"
+
+#include <algorithm>
+
+#include "Platform/Records/ByteReader.h"
+
+namespace trovex {
+namespace {
+
+// A node is three numbers of two bytes (its length, the length of its value, the value's type), a
+// key with its NUL, the value and the nodes below it. Keys, values and nodes begin at multiples of
+// four bytes, or should.
+constexpr std::size_t kHeaderSize = 6;
+constexpr std::size_t kUnit = 2;
+constexpr std::size_t kBoundary = 4;
+constexpr std::size_t kLongestKey = 64;  // characters; no key that counts is as long
+
+constexpr TextView kRootKey = u"VS_VERSION_INFO";
+constexpr TextView kStringsKey = u"StringFileInfo";
+constexpr TextView kVariablesKey = u"VarFileInfo";
+constexpr TextView kTranslationKey = u"Translation";
+
+constexpr std::uint32_t kFixedInfoSignature = 0xFEEF04BD;
+constexpr std::size_t kFixedInfoSize = 52;
+
+class Bytes {
+ public:
+  explicit Bytes(std::string_view bytes) : view_(bytes), size_(bytes.size()) {}
+
+  std::size_t Size() const { return size_; }
+  // Numbers, 0 behind the end.
+  char16_t Unit(std::size_t at) const { return static_cast<char16_t>(view_.U16(at)); }
+  std::uint32_t Number32(std::size_t at) const { return view_.U32(at); }
+  // The text from `at` up to its NUL or `end`, at most `longest` characters.
+  Text TextAt(std::size_t at, std::size_t end, std::size_t longest) const {
+    Text text;
+    for (; at + kUnit <= end && text.size() < longest && Unit(at) != 0; at += kUnit) {
+      text += Unit(at);
+    }
+    return text;
+  }
+
+ private:
+  records::ByteView view_;
+  std::size_t size_;
+};
+
+struct Node {
+  std::size_t end = 0;    // of the node, within the record
+  std::size_t value = 0;  // where the value, or what is below, begins
+  std::size_t value_length = 0;
+  Text key;
+};
+
+std::size_t RoundedUp(std::size_t at) {
+  return (at + kBoundary - 1) / kBoundary * kBoundary;
+}
+
+// Past a key's NUL: on the boundary, unless something else than padding stands before it.
+std::size_t BehindPadding(const Bytes& bytes, std::size_t at) {
+  return at % kBoundary == 0 || bytes.Unit(at) == 0 ? RoundedUp(at) : at;
+}
+
+// Past the zeros between two nodes, as many as there may be: no length is zero.
+std::size_t BehindZeros(const Bytes& bytes, std::size_t at, std::size_t end) {
+  at += at % kUnit;
+  while (at < end && bytes.Unit(at) == 0) at += kUnit;
+  return at;
+}
+
+// The node at `at`, which ends at `limit` at the latest; nothing if it cannot be one.
+std::optional<Node> NodeAt(const Bytes& bytes, std::size_t at, std::size_t limit) {
+  if (at + kHeaderSize > limit) return std::nullopt;
+  const std::size_t length = bytes.Unit(at);
+  if (length < kHeaderSize) return std::nullopt;
+  Node node;
+  node.end = at + std::min(length, limit - at);
+  node.value_length = bytes.Unit(at + kUnit);
+  node.key = bytes.TextAt(at + kHeaderSize, node.end, kLongestKey);
+  const std::size_t behind_key = at + kHeaderSize + (node.key.size() + 1) * kUnit;
+  node.value = std::min(BehindPadding(bytes, behind_key), node.end);
+  return node;
+}
+
+// Calls `visit` with the nodes from `at` up to `end`, until it says true. One may reach beyond
+// `end`, up to `limit`, where the length of what holds it was told too short.
+template <typename Visit>
+void ForEachNode(const Bytes& bytes, std::size_t at, std::size_t end, std::size_t limit,
+                 Visit visit) {
+  for (at = BehindZeros(bytes, at, end); at < end; at = BehindZeros(bytes, at, end)) {
+    const auto node = NodeAt(bytes, at, limit);
+    if (!node || visit(*node)) return;
+    at = node->end;
+  }
+}
+
+// Where the nodes below the root begin: behind its numbers, of known size where they are there.
+std::size_t BehindFixedInfo(const Bytes& bytes, const Node& root) {
+  const bool known = bytes.Number32(root.value) == kFixedInfoSignature;
+  return root.value + (known ? kFixedInfoSize : root.value_length);
+}
+
+// A table's key, "040C04B0": language and code page of one word of the translation.
+Text TableKey(const Bytes& bytes, std::size_t at) {
+  constexpr TextView kDigits = u"0123456789ABCDEF";
+  Text key;
+  for (const unsigned number : {bytes.Unit(at), bytes.Unit(at + kUnit)}) {
+    for (int shift = 12; shift >= 0; shift -= 4) key += kDigits[number >> shift & 0xF];
+  }
+  return key;
+}
+
+class Record {
+ public:
+  explicit Record(std::string_view bytes) : bytes_(bytes) {}
+
+  std::optional<Text> ValueOf(TextView key) const {
+    const auto root = NodeAt(bytes_, 0, bytes_.Size());
+    if (!root || root->key != kRootKey) return std::nullopt;
+    const auto table = ChosenTable(*root);
+    return table ? ValueIn(*table, key) : std::nullopt;
+  }
+
+ private:
+  template <typename Visit>
+  void ForEachTable(const Node& root, Visit visit) const {
+    bool done = false;
+    ForEachNode(bytes_, BehindFixedInfo(bytes_, root), root.end, root.end, [&](const Node& block) {
+      if (!EqualsNoCase(block.key, kStringsKey)) return false;
+      ForEachNode(bytes_, block.value, block.end, block.end,
+                  [&](const Node& table) { return done = visit(table); });
+      return done;
+    });
+  }
+
+  std::optional<Node> FindTable(const Node& root, TextView key) const {
+    std::optional<Node> found;
+    ForEachTable(root, [&](const Node& table) {
+      if (key.empty() || EqualsNoCase(table.key, key)) found = table;
+      return found.has_value();
+    });
+    return found;
+  }
+
+  std::optional<Node> ChosenTable(const Node& root) const {
+    std::optional<Node> chosen;
+    ForEachTranslation(root, [&](const Text& key) {
+      chosen = FindTable(root, key);
+      return chosen.has_value();
+    });
+    return chosen ? chosen : FindTable(root, {});
+  }
+
+  template <typename Visit>
+  void ForEachTranslation(const Node& root, Visit visit) const {
+    ForEachNode(bytes_, BehindFixedInfo(bytes_, root), root.end, root.end, [&](const Node& block) {
+      if (!EqualsNoCase(block.key, kVariablesKey)) return false;
+      bool done = false;
+      ForEachNode(bytes_, block.value, block.end, block.end, [&](const Node& variable) {
+        if (!EqualsNoCase(variable.key, kTranslationKey)) return false;
+        for (std::size_t i = 0; !done && i < kMostLanguages; ++i) {
+          const std::size_t at = variable.value + i * 2 * kUnit;
+          if (at + 2 * kUnit > variable.end) break;
+          done = visit(TableKey(bytes_, at));
+        }
+        return done;
+      });
+      return done;
+    });
+  }
+
+  std::optional<Text> ValueIn(const Node& table, TextView key) const {
+    std::optional<Text> value;
+    ForEachNode(bytes_, table.value, table.end, bytes_.Size(), [&](const Node& string) {
+      if (!EqualsNoCase(string.key, key)) return false;
+      value = bytes_.TextAt(string.value, string.end, Text::npos);
+      return true;
+    });
+    return value;
+  }
+
+  static constexpr std::size_t kMostLanguages = 64;
+
+  const Bytes bytes_;
+};
+
+}  // namespace
+
+std::optional<Text> ValueInWideRecord(std::string_view record, TextView key) {
+  return Record(record).ValueOf(key);
+}
+
+}  // namespace trovex
