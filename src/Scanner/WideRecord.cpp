@@ -1,8 +1,7 @@
 #include "Scanner/WideRecord.h"
 
 #include <algorithm>
-
-#include "Platform/Records/ByteReader.h"
+#include <cstdint>
 
 namespace trovex {
 namespace {
@@ -23,33 +22,52 @@ constexpr TextView kTranslationKey = u"Translation";
 constexpr std::uint32_t kFixedInfoSignature = 0xFEEF04BD;
 constexpr std::size_t kFixedInfoSize = 52;
 
+// Read unit by unit, a scan over: every function here is small enough to stand where it is used.
 class Bytes {
  public:
-  explicit Bytes(std::string_view bytes) : view_(bytes), size_(bytes.size()) {}
+  explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
 
-  std::size_t Size() const { return size_; }
-  // Numbers, 0 behind the end.
-  char16_t Unit(std::size_t at) const { return static_cast<char16_t>(view_.U16(at)); }
-  std::uint32_t Number32(std::size_t at) const { return view_.U32(at); }
-  // The text from `at` up to its NUL or `end`, at most `longest` characters.
-  Text TextAt(std::size_t at, std::size_t end, std::size_t longest) const {
-    Text text;
-    for (; at + kUnit <= end && text.size() < longest && Unit(at) != 0; at += kUnit) {
-      text += Unit(at);
-    }
+  std::size_t Size() const { return bytes_.size(); }
+  // The number at `at`, 0 where it does not lie wholly inside.
+  char16_t Unit(std::size_t at) const {
+    if (at + kUnit > bytes_.size()) return 0;
+    return static_cast<char16_t>(Byte(at) | Byte(at + 1) << 8);
+  }
+  std::uint32_t Number32(std::size_t at) const {
+    return Unit(at) | static_cast<std::uint32_t>(Unit(at + kUnit)) << 16;
+  }
+  // Characters of the text from `at` up to its NUL or `end`, at most `longest`.
+  std::size_t Length(std::size_t at, std::size_t end, std::size_t longest) const {
+    std::size_t length = 0;
+    for (; at + kUnit <= end && length < longest && Unit(at) != 0; at += kUnit) ++length;
+    return length;
+  }
+  Text TextAt(std::size_t at, std::size_t length) const {
+    Text text(length, u'\0');
+    for (std::size_t i = 0; i < length; ++i) text[i] = Unit(at + i * kUnit);
     return text;
+  }
+  // True if these characters are the text, without regard to case.
+  bool Says(std::size_t at, std::size_t length, TextView text) const {
+    if (length != text.size()) return false;
+    for (std::size_t i = 0; i < length; ++i) {
+      const char16_t unit = Unit(at + i * kUnit);
+      if (unit != text[i] && ToUpper(unit) != ToUpper(text[i])) return false;
+    }
+    return true;
   }
 
  private:
-  records::ByteView view_;
-  std::size_t size_;
+  unsigned Byte(std::size_t at) const { return static_cast<unsigned char>(bytes_[at]); }
+
+  std::string_view bytes_;
 };
 
 struct Node {
   std::size_t end = 0;    // of the node, within the record
   std::size_t value = 0;  // where the value, or what is below, begins
   std::size_t value_length = 0;
-  Text key;
+  std::size_t key = 0, key_length = 0;  // where the key begins; in characters
 };
 
 std::size_t RoundedUp(std::size_t at) {
@@ -76,8 +94,9 @@ std::optional<Node> NodeAt(const Bytes& bytes, std::size_t at, std::size_t limit
   Node node;
   node.end = at + std::min(length, limit - at);
   node.value_length = bytes.Unit(at + kUnit);
-  node.key = bytes.TextAt(at + kHeaderSize, node.end, kLongestKey);
-  const std::size_t behind_key = at + kHeaderSize + (node.key.size() + 1) * kUnit;
+  node.key = at + kHeaderSize;
+  node.key_length = bytes.Length(node.key, node.end, kLongestKey);
+  const std::size_t behind_key = node.key + (node.key_length + 1) * kUnit;
   node.value = std::min(BehindPadding(bytes, behind_key), node.end);
   return node;
 }
@@ -116,17 +135,21 @@ class Record {
 
   std::optional<Text> ValueOf(TextView key) const {
     const auto root = NodeAt(bytes_, 0, bytes_.Size());
-    if (!root || root->key != kRootKey) return std::nullopt;
+    if (!root || !Bears(*root, kRootKey)) return std::nullopt;
     const auto table = ChosenTable(*root);
     return table ? ValueIn(*table, key) : std::nullopt;
   }
 
  private:
+  bool Bears(const Node& node, TextView key) const {
+    return bytes_.Says(node.key, node.key_length, key);
+  }
+
   template <typename Visit>
   void ForEachTable(const Node& root, Visit visit) const {
     bool done = false;
     ForEachNode(bytes_, BehindFixedInfo(bytes_, root), root.end, root.end, [&](const Node& block) {
-      if (!EqualsNoCase(block.key, kStringsKey)) return false;
+      if (!Bears(block, kStringsKey)) return false;
       ForEachNode(bytes_, block.value, block.end, block.end,
                   [&](const Node& table) { return done = visit(table); });
       return done;
@@ -136,7 +159,7 @@ class Record {
   std::optional<Node> FindTable(const Node& root, TextView key) const {
     std::optional<Node> found;
     ForEachTable(root, [&](const Node& table) {
-      if (key.empty() || EqualsNoCase(table.key, key)) found = table;
+      if (key.empty() || Bears(table, key)) found = table;
       return found.has_value();
     });
     return found;
@@ -154,10 +177,10 @@ class Record {
   template <typename Visit>
   void ForEachTranslation(const Node& root, Visit visit) const {
     ForEachNode(bytes_, BehindFixedInfo(bytes_, root), root.end, root.end, [&](const Node& block) {
-      if (!EqualsNoCase(block.key, kVariablesKey)) return false;
+      if (!Bears(block, kVariablesKey)) return false;
       bool done = false;
       ForEachNode(bytes_, block.value, block.end, block.end, [&](const Node& variable) {
-        if (!EqualsNoCase(variable.key, kTranslationKey)) return false;
+        if (!Bears(variable, kTranslationKey)) return false;
         for (std::size_t i = 0; !done && i < kMostLanguages; ++i) {
           const std::size_t at = variable.value + i * 2 * kUnit;
           if (at + 2 * kUnit > variable.end) break;
@@ -172,8 +195,8 @@ class Record {
   std::optional<Text> ValueIn(const Node& table, TextView key) const {
     std::optional<Text> value;
     ForEachNode(bytes_, table.value, table.end, bytes_.Size(), [&](const Node& string) {
-      if (!EqualsNoCase(string.key, key)) return false;
-      value = bytes_.TextAt(string.value, string.end, Text::npos);
+      if (!Bears(string, key)) return false;
+      value = bytes_.TextAt(string.value, bytes_.Length(string.value, string.end, Text::npos));
       return true;
     });
     return value;
