@@ -1,19 +1,16 @@
 #include "Apps/trovex-cli/DiscEntry.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "Apps/trovex-cli/Sha1.h"
 #include "Platform/Encoding.h"
 #include "Platform/Records/FileFormat.h"
-#include "Ui/Directory.h"
 
 namespace trovex::cli {
 namespace {
 
 constexpr const char* kTables[] = {"setup", "exe", "zip"};
 constexpr std::size_t kPiece = 65536;
-constexpr std::size_t kDriveRoot = 3;  // "D:\"
 
 // A header that stands further behind is not looked for.
 constexpr std::uint64_t kFurthest = 1 << 24;
@@ -87,22 +84,6 @@ std::string Utf8(TextView text) {
 }
 
 }  // namespace
-
-Text DiskSpelling(const Text& path) {
-  const bool rooted = path.size() >= kDriveRoot && path[1] == u':' && path[2] == u'\\';
-  if (!rooted) return path;
-  Text spelled = path.substr(0, kDriveRoot);
-  for (std::size_t at = kDriveRoot; at < path.size();) {
-    const std::size_t end = std::min(path.find(u'\\', at), path.size());
-    const Text level = path.substr(at, end - at);
-    const auto entries = EntriesOf(spelled);
-    ListedEntry entry;
-    const bool found = entries && entries->Find(level, entry);
-    spelled = WithBackslash(spelled) + (found ? Text(entry.name) : level);
-    at = end + 1;
-  }
-  return spelled;
-}
 
 std::string TextOf(const Origin& origin) {
   switch (origin.kind) {

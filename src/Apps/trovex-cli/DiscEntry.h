@@ -8,9 +8,6 @@
 
 namespace trovex::cli {
 
-// The path as its names stand on the disk, as far as they are found there.
-Text DiskSpelling(const Text& path);
-
 // "SETUP.LST [Setup] Title", "readme.txt, line 2"; empty for none.
 std::string TextOf(const Origin& origin);
 

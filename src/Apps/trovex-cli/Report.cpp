@@ -7,6 +7,7 @@
 #include "Apps/trovex-cli/Cli.h"
 #include "Apps/trovex-cli/DiscEntry.h"
 #include "Apps/trovex-cli/DiscHost.h"
+#include "Apps/trovex-cli/DiskSpelling.h"
 #include "Apps/trovex-cli/Incomplete.h"
 #include "Apps/trovex-cli/NewFile.h"
 #include "Apps/trovex-cli/Progress.h"
@@ -87,7 +88,7 @@ class DiscRows {
   void Take(const Finding& finding) {
     if (walked_ != finding.directory || location_.empty()) {
       walked_ = finding.directory;
-      location_ = DiskSpelling(walked_);
+      location_ = spelling_.Of(walked_);
     }
     ReportRow row = RowOf(finding);
     row.disc = ToStrictUtf8(FromUtf8(disc_));
@@ -111,6 +112,7 @@ class DiscRows {
   const fs::path& directory_;  // that digests are told from
   const std::string disc_;
   std::string volume_;
+  DiskSpelling spelling_;
   Text walked_, location_;  // of the directory in hand
 };
 
