@@ -192,6 +192,7 @@ TEST(ReportLinesTest, ADigestsNameIsEscapedWhereItMustBe) {
 
 TEST_F(ReportTest, DigestsStandInTheRowsAndInAListOfTheirOwn) {
   disc_.File("A/JEU.EXE", "abc");
+  const std::filesystem::path user = std::filesystem::current_path();
   const std::vector<Json> rows = Rows({"A"}, {"--hash"});
   ASSERT_EQ(rows.size(), 1u);
   EXPECT_EQ(rows[0]["sha1"], "a9993e364706816aba3e25717850c26c9cd0d89d");
@@ -199,8 +200,8 @@ TEST_F(ReportTest, DigestsStandInTheRowsAndInAListOfTheirOwn) {
   ASSERT_THAT(list, StartsWith("a9993e364706816aba3e25717850c26c9cd0d89d  "));
   const std::string path = list.substr(42, list.size() - 43);
   EXPECT_EQ(path.find('\\'), std::string::npos);
-  std::ifstream found(std::filesystem::path(std::u8string(path.begin(), path.end())));
-  EXPECT_TRUE(found.is_open()) << path << " leads there from the current directory";
+  std::ifstream found(user / std::filesystem::path(std::u8string(path.begin(), path.end())));
+  EXPECT_TRUE(found.is_open()) << path << " leads there from where the user stands";
 }
 
 TEST_F(ReportTest, ALargeFilesDigestIsThatOfAllOfIt) {
