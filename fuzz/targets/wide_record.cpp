@@ -6,22 +6,24 @@
 namespace trovex::fuzz {
 namespace {
 
-constexpr TextView kKeys[] = {u"CompanyName",  u"FileDescription", u"FileVersion",
-                              u"InternalName", u"LegalCopyright",  u"OriginalFilename",
-                              u"ProductName",  u"ProductVersion",  u"fileversion"};
+constexpr std::string_view kKeys[] = {"CompanyName",  "FileDescription", "FileVersion",
+                                      "InternalName", "LegalCopyright",  "OriginalFilename",
+                                      "ProductName",  "ProductVersion",  "fileversion"};
 
 }  // namespace
 
 void Try(std::string_view input) {
-  for (const TextView key : kKeys) {
+  const WideTable table = FindWideTable(input);
+  Promise(table.begin <= table.end && table.end <= input.size(), "the table lies in the record");
+  for (const std::string_view key : kKeys) {
     const auto value = ValueInWideRecord(input, key);
     if (value) {
       Promise(value->size() * 2 < input.size(), "a value is part of the record");
       Promise(value->find(u'\0') == Text::npos, "a value ends at its first NUL");
     }
-    Promise(ValueInWideRecord(input, key) == value, "the same record has the same values");
+    Promise(ValueInWideTable(input, table, key) == value, "its table gives a record's values");
   }
-  Promise(ValueInWideRecord(input, u"FileVersion") == ValueInWideRecord(input, u"fileversion"),
+  Promise(ValueInWideRecord(input, "FileVersion") == ValueInWideRecord(input, "fileversion"),
           "keys compare without regard to case");
 }
 

@@ -58,7 +58,7 @@ Text vNomProduit(std::string_view record) {
   constexpr std::size_t kOffset = 12;  // the key, its NUL and no padding
   const auto value = BehindKey(record, "ProductName", kOffset);
   if (value) return FromCp1252(*value);
-  const auto wide = bFichesUnicode() ? ValueInWideRecord(record, u"ProductName") : std::nullopt;
+  const auto wide = bFichesUnicode() ? ValueInWideRecord(record, "ProductName") : std::nullopt;
   return wide ? *wide : ResString(StringId::kPasDeNomProduit);
 }
 

@@ -14,15 +14,16 @@ constexpr std::size_t kUnit = 2;
 constexpr std::size_t kBoundary = 4;
 constexpr std::size_t kLongestKey = 64;  // characters; no key that counts is as long
 
-constexpr TextView kRootKey = u"VS_VERSION_INFO";
-constexpr TextView kStringsKey = u"StringFileInfo";
-constexpr TextView kVariablesKey = u"VarFileInfo";
-constexpr TextView kTranslationKey = u"Translation";
+constexpr std::string_view kRootKey = "VS_VERSION_INFO";
+constexpr std::string_view kStringsKey = "StringFileInfo";
+constexpr std::string_view kVariablesKey = "VarFileInfo";
+constexpr std::string_view kTranslationKey = "Translation";
 
 constexpr std::uint32_t kFixedInfoSignature = 0xFEEF04BD;
 constexpr std::size_t kFixedInfoSize = 52;
 
-// Read unit by unit, a scan over: every function here is small enough to stand where it is used.
+// Read unit by unit, several times for each file of a scan: what a loop reads is known to lie
+// inside before it begins.
 class Bytes {
  public:
   explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
@@ -30,35 +31,46 @@ class Bytes {
   std::size_t Size() const { return bytes_.size(); }
   // The number at `at`, 0 where it does not lie wholly inside.
   char16_t Unit(std::size_t at) const {
-    if (at + kUnit > bytes_.size()) return 0;
-    return static_cast<char16_t>(Byte(at) | Byte(at + 1) << 8);
+    return at + kUnit <= bytes_.size() ? UnitOf(bytes_.data() + at) : char16_t{0};
   }
   std::uint32_t Number32(std::size_t at) const {
     return Unit(at) | static_cast<std::uint32_t>(Unit(at + kUnit)) << 16;
   }
   // Characters of the text from `at` up to its NUL or `end`, at most `longest`.
   std::size_t Length(std::size_t at, std::size_t end, std::size_t longest) const {
+    end = std::min(end, bytes_.size());
+    const std::size_t most = at < end ? std::min((end - at) / kUnit, longest) : 0;
+    const char* unit = bytes_.data() + at;
     std::size_t length = 0;
-    for (; at + kUnit <= end && length < longest && Unit(at) != 0; at += kUnit) ++length;
+    for (; length < most && UnitOf(unit) != 0; unit += kUnit) ++length;
     return length;
   }
+  // So many characters, as Length has counted them.
   Text TextAt(std::size_t at, std::size_t length) const {
     Text text(length, u'\0');
-    for (std::size_t i = 0; i < length; ++i) text[i] = Unit(at + i * kUnit);
+    const char* unit = bytes_.data() + at;
+    for (char16_t& character : text) {
+      character = UnitOf(unit);
+      unit += kUnit;
+    }
     return text;
   }
-  // True if these characters are the text, without regard to case.
-  bool Says(std::size_t at, std::size_t length, TextView text) const {
+  // True if these characters, as Length has counted them, are the text, without regard to case.
+  bool Says(std::size_t at, std::size_t length, std::string_view text) const {
     if (length != text.size()) return false;
-    for (std::size_t i = 0; i < length; ++i) {
-      const char16_t unit = Unit(at + i * kUnit);
-      if (unit != text[i] && ToUpper(unit) != ToUpper(text[i])) return false;
-    }
-    return true;
+    const char* unit = bytes_.data() + at;
+    return std::all_of(text.begin(), text.end(), [&](char letter) {
+      const char16_t said = UnitOf(unit), expected = static_cast<unsigned char>(letter);
+      unit += kUnit;
+      return said == expected || ToUpper(said) == ToUpper(expected);
+    });
   }
 
  private:
-  unsigned Byte(std::size_t at) const { return static_cast<unsigned char>(bytes_[at]); }
+  static char16_t UnitOf(const char* bytes) {
+    return static_cast<char16_t>(static_cast<unsigned char>(bytes[0]) |
+                                 static_cast<unsigned char>(bytes[1]) << 8);
+  }
 
   std::string_view bytes_;
 };
@@ -120,9 +132,9 @@ std::size_t BehindFixedInfo(const Bytes& bytes, const Node& root) {
 }
 
 // A table's key, "040C04B0": language and code page of one word of the translation.
-Text TableKey(const Bytes& bytes, std::size_t at) {
-  constexpr TextView kDigits = u"0123456789ABCDEF";
-  Text key;
+std::string TableKey(const Bytes& bytes, std::size_t at) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string key;
   for (const unsigned number : {bytes.Unit(at), bytes.Unit(at + kUnit)}) {
     for (int shift = 12; shift >= 0; shift -= 4) key += kDigits[number >> shift & 0xF];
   }
@@ -133,15 +145,25 @@ class Record {
  public:
   explicit Record(std::string_view bytes) : bytes_(bytes) {}
 
-  std::optional<Text> ValueOf(TextView key) const {
+  WideTable Table() const {
     const auto root = NodeAt(bytes_, 0, bytes_.Size());
-    if (!root || !Bears(*root, kRootKey)) return std::nullopt;
+    if (!root || !Bears(*root, kRootKey)) return {};
     const auto table = ChosenTable(*root);
-    return table ? ValueIn(*table, key) : std::nullopt;
+    return table ? WideTable{table->value, table->end} : WideTable{};
+  }
+
+  std::optional<Text> ValueIn(const WideTable& table, std::string_view key) const {
+    std::optional<Text> value;
+    ForEachNode(bytes_, table.begin, table.end, bytes_.Size(), [&](const Node& string) {
+      if (!Bears(string, key)) return false;
+      value = bytes_.TextAt(string.value, bytes_.Length(string.value, string.end, Text::npos));
+      return true;
+    });
+    return value;
   }
 
  private:
-  bool Bears(const Node& node, TextView key) const {
+  bool Bears(const Node& node, std::string_view key) const {
     return bytes_.Says(node.key, node.key_length, key);
   }
 
@@ -156,7 +178,7 @@ class Record {
     });
   }
 
-  std::optional<Node> FindTable(const Node& root, TextView key) const {
+  std::optional<Node> FindTable(const Node& root, std::string_view key) const {
     std::optional<Node> found;
     ForEachTable(root, [&](const Node& table) {
       if (key.empty() || Bears(table, key)) found = table;
@@ -167,7 +189,7 @@ class Record {
 
   std::optional<Node> ChosenTable(const Node& root) const {
     std::optional<Node> chosen;
-    ForEachTranslation(root, [&](const Text& key) {
+    ForEachTranslation(root, [&](const std::string& key) {
       chosen = FindTable(root, key);
       return chosen.has_value();
     });
@@ -192,16 +214,6 @@ class Record {
     });
   }
 
-  std::optional<Text> ValueIn(const Node& table, TextView key) const {
-    std::optional<Text> value;
-    ForEachNode(bytes_, table.value, table.end, bytes_.Size(), [&](const Node& string) {
-      if (!Bears(string, key)) return false;
-      value = bytes_.TextAt(string.value, bytes_.Length(string.value, string.end, Text::npos));
-      return true;
-    });
-    return value;
-  }
-
   static constexpr std::size_t kMostLanguages = 64;
 
   const Bytes bytes_;
@@ -209,8 +221,17 @@ class Record {
 
 }  // namespace
 
-std::optional<Text> ValueInWideRecord(std::string_view record, TextView key) {
-  return Record(record).ValueOf(key);
+WideTable FindWideTable(std::string_view record) {
+  return Record(record).Table();
+}
+
+std::optional<Text> ValueInWideTable(std::string_view record, const WideTable& table,
+                                     std::string_view key) {
+  return Record(record).ValueIn(table, key);
+}
+
+std::optional<Text> ValueInWideRecord(std::string_view record, std::string_view key) {
+  return ValueInWideTable(record, FindWideTable(record), key);
 }
 
 }  // namespace trovex

@@ -4,7 +4,6 @@
 #include "Lib/LIB_FILE.h"
 #include "Platform/Encoding.h"
 #include "Scanner/VersionRecord.h"
-#include "Scanner/WideRecord.h"
 
 namespace trovex {
 namespace {
@@ -32,6 +31,7 @@ void zFileInfo::PutFileName(const FileInHand& oFichier, Parts parts) {
 void zFileInfo::ViderChamps() {
   status_.reset();
   record_.clear();
+  wide_table_.reset();
   put_ = {};
 }
 
@@ -69,9 +69,14 @@ Text zFileInfo::FromRecord(Field field) const {
     if (key.field != field) continue;
     const auto value = BehindKey(record_, key.name, key.offset);
     if (value) return FromCp1252(value->substr(0, value->find('\0')));
-    if (bFichesUnicode()) return ValueInWideRecord(record_, FromCp1252(key.name)).value_or(Text());
+    if (bFichesUnicode()) return FromWideRecord(key.name);
   }
   return {};
+}
+
+Text zFileInfo::FromWideRecord(std::string_view key) const {
+  if (!wide_table_) wide_table_ = FindWideTable(record_);
+  return ValueInWideTable(record_, *wide_table_, key).value_or(Text());
 }
 
 Text sFormatTaille(std::int64_t iTaille) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Lib/Folder.h"
+#include "Scanner/WideRecord.h"
 
 namespace trovex {
 
@@ -71,9 +72,11 @@ class zFileInfo {
   void Put(Field field, Text value) { put_[field] = std::move(value); }
   Text FromStatus(Field field) const;
   Text FromRecord(Field field) const;
+  Text FromWideRecord(std::string_view key) const;
 
   std::optional<FileStatus> status_;
   std::string record_;
+  mutable std::optional<WideTable> wide_table_;       // of the record, once it was asked for
   std::array<std::optional<Text>, kFieldCount> put_;  // by the setters
 };
 

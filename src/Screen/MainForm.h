@@ -54,7 +54,7 @@ class MainForm : public Form {
   ListBox& ListFichier;
   PictureBox& ImageSelect;
   StatusBar& PanelAide;
-  MenuEntry& OuvrirImage;  // in the window's menu
+  MenuEntry& OuvrirImage;        // in the window's menu
   MenuEntry& LireFichesUnicode;  // likewise
 
  private:

@@ -5,6 +5,7 @@
 
 #include "Apps/CliTest.h"
 #include "Apps/trovex-cli/ReportLines.h"
+#include "support/IsoBuilder.h"
 
 namespace trovex::test {
 namespace {
@@ -263,6 +264,45 @@ TEST_F(ReportTest, ProgressOnATerminalTellsTheDisc) {
   EXPECT_EQ(err_, "");
 }
 
+// --- Images ---
+
+TEST_F(ReportTest, AnImageIsADiscAmongOthers) {
+  IsoBuilder iso;
+  iso.File("JEUX/DAMES.EXE", "abc");
+  iso.File("JEUX/LISEZMOI.TXT", "Les dames.\r\n");
+  disc_.File("disque.iso", iso.Build(IsoFormat::kJoliet).bytes);
+  Disc("A");
+  const std::vector<Json> rows = Rows({"A", "disque.iso"}, {"--hash"});
+  ASSERT_EQ(rows.size(), 4u);
+  const Json& dames = rows[3];
+  EXPECT_EQ(dames["disc"], Argument("disque.iso"));
+  EXPECT_EQ(dames["location"], "D:\\JEUX");
+  EXPECT_EQ(dames["file"], "DAMES.EXE");
+  EXPECT_EQ(dames["description"], "Les dames.");
+  EXPECT_EQ(dames["source"], "lisezmoi.txt, line 1");
+  EXPECT_EQ(dames["size"], 3);
+  EXPECT_EQ(dames["sha1"], "a9993e364706816aba3e25717850c26c9cd0d89d");
+  const std::string list = Bytes("r.sha1");
+  EXPECT_EQ(std::count(list.begin(), list.end(), '\n'), 3) << "files of directories only";
+  EXPECT_EQ(list.find("DAMES.EXE"), std::string::npos) << list;
+}
+
+TEST_F(ReportTest, AnImagesVolumeIsNamed) {
+  IsoBuilder iso;
+  iso.Label("NOEL_97");
+  iso.File("JEU.EXE", DosExecutable());
+  disc_.File("disque.iso", iso.Build(IsoFormat::kPlain).bytes);
+  EXPECT_EQ(Rows({"disque.iso"})[0]["volume"], "NOEL_97");
+}
+
+TEST_F(ReportTest, AnImageThatIsNoneDoesNotEndTheRun) {
+  disc_.File("disque.iso", std::string(100000, 'x'));
+  Disc("A");
+  EXPECT_EQ(Make("r.jsonl", {"disque.iso", "A"}), cli::kIncomplete);
+  EXPECT_THAT(err_, StartsWith("trovex-cli: " + Argument("disque.iso") + ": neither"));
+  EXPECT_EQ(Parsed("r.jsonl").size(), 3u);
+}
+
 // --- Options ---
 
 TEST_F(ReportTest, CommandLinesThatCannotBe) {
@@ -270,7 +310,7 @@ TEST_F(ReportTest, CommandLinesThatCannotBe) {
   ExpectWrong({"--report", Output("r.txt"), Argument("A")}, ".csv or .jsonl");
   ExpectWrong({"--report", Output("r"), Argument("A")}, ".csv or .jsonl");
   ExpectWrong({"--report", "", Argument("A")}, "name");
-  ExpectWrong({"--report", Output("r.csv")}, "DIRECTORY");
+  ExpectWrong({"--report", Output("r.csv")}, "DISC");
   ExpectWrong({Argument("A"), Argument("A")}, "--report");
   ExpectWrong({"--hash", Argument("A")}, "--report");
   ExpectWrong({"--report", Output("r.csv"), Argument("A"), "--rien"}, "--rien");

@@ -77,11 +77,18 @@ struct Writer {
   }
 };
 
+std::string TwoLanguages(const std::vector<std::pair<unsigned, unsigned>>& languages) {
+  const Writer w;
+  return w.Record({w.Strings({w.Table(u"040904B0", {w.String(u"ProductName", u"Draughts")}),
+                              w.Table(u"040c04b0", {w.String(u"ProductName", u"Dames")})}),
+                   w.Translation(languages)});
+}
+
 void ExpectJeu(const Writer& writer) {
   const std::string record = writer.Jeu();
-  EXPECT_THAT(ValueInWideRecord(record, u"FileDescription"), Optional(Eq(u"Jeu de dames")));
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
-  EXPECT_EQ(ValueInWideRecord(record, u"CompanyName"), std::nullopt);
+  EXPECT_THAT(ValueInWideRecord(record, "FileDescription"), Optional(Eq(u"Jeu de dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_EQ(ValueInWideRecord(record, "CompanyName"), std::nullopt);
 }
 
 TEST(WideRecordTest, AValueStandsUnderItsKey) {
@@ -90,18 +97,18 @@ TEST(WideRecordTest, AValueStandsUnderItsKey) {
 
 TEST(WideRecordTest, TheRecordsThatOtherTestsMakeAreRead) {
   const std::string record = VersionBlock16({{"FileDescription", "Jeu \xE0 deux"}});
-  EXPECT_THAT(ValueInWideRecord(record, u"FileDescription"), Optional(Eq(u"Jeu à deux")));
+  EXPECT_THAT(ValueInWideRecord(record, "FileDescription"), Optional(Eq(u"Jeu à deux")));
 }
 
 TEST(WideRecordTest, CharactersBeyondWindows1252AreKept) {
   const Writer w;
   const std::string record = w.Record(
       {w.Strings({w.Table(u"041104B0", {w.String(u"FileDescription", u"囲碁 œ \U0001F3B2")})})});
-  EXPECT_THAT(ValueInWideRecord(record, u"FileDescription"), Optional(Eq(u"囲碁 œ \U0001F3B2")));
+  EXPECT_THAT(ValueInWideRecord(record, "FileDescription"), Optional(Eq(u"囲碁 œ \U0001F3B2")));
 }
 
 TEST(WideRecordTest, KeysCompareWithoutRegardToCase) {
-  EXPECT_THAT(ValueInWideRecord(Writer().Jeu(), u"PRODUCTNAME"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(Writer().Jeu(), "PRODUCTNAME"), Optional(Eq(u"Dames")));
 }
 
 // --- Records that are half right ---
@@ -119,7 +126,7 @@ TEST(WideRecordTest, TheLengthOfTheNumbersMayBeWrong) {
   for (const std::size_t length : {0u, 26u, 52u, 104u}) {
     const std::string record =
         w.Record({w.Strings({w.Table(u"040C04B0", {w.String(u"ProductName", u"Dames")})})}, length);
-    EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames"))) << length;
+    EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames"))) << length;
   }
 }
 
@@ -133,9 +140,9 @@ TEST(WideRecordTest, PaddingMayBeMissing) {
       const std::string record = writer.Record({writer.Strings(
           {writer.Table(u"040C04B0", {writer.String(u"InternalName", u"DAMES"),
                                       writer.String(u"ProductName", u"Jeu de dames")})})});
-      EXPECT_THAT(ValueInWideRecord(record, u"InternalName"), Optional(Eq(u"DAMES")))
+      EXPECT_THAT(ValueInWideRecord(record, "InternalName"), Optional(Eq(u"DAMES")))
           << values << nodes;
-      EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Jeu de dames")))
+      EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Jeu de dames")))
           << values << nodes;
     }
   }
@@ -159,23 +166,41 @@ TEST(WideRecordTest, AnEmptyTextIsAValueAndEndsNothing) {
   const std::string record =
       w.Record({w.Strings({w.Table(u"040C04B0", {nothing, w.String(u"FileVersion", u""),
                                                  w.String(u"ProductName", u"Dames")})})});
-  EXPECT_THAT(ValueInWideRecord(record, u"CompanyName"), Optional(Eq(u"")));
-  EXPECT_THAT(ValueInWideRecord(record, u"FileVersion"), Optional(Eq(u"")));
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "CompanyName"), Optional(Eq(u"")));
+  EXPECT_THAT(ValueInWideRecord(record, "FileVersion"), Optional(Eq(u"")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
 }
 
 TEST(WideRecordTest, AValueEndsAtItsFirstNul) {
   const Writer w;
   const std::string record = w.Record({w.Strings(
       {w.Table(u"040C04B0", {w.String(u"ProductName", TextView(u"Dames\0reste", 11))})})});
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
 }
 
 TEST(WideRecordTest, OfAKeyThatStandsTwiceTheFirstCounts) {
   const Writer w;
   const std::string record = w.Record({w.Strings({w.Table(
       u"040C04B0", {w.String(u"ProductName", u"un"), w.String(u"ProductName", u"deux")})})});
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"un")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"un")));
+}
+
+TEST(WideRecordTest, OfTwoRecordsTheFirstCounts) {
+  const Writer w;
+  const std::string other =
+      w.Record({w.Strings({w.Table(u"040C04B0", {w.String(u"CompanyName", u"Autre")})})});
+  const std::string record = w.Jeu() + other;
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_EQ(ValueInWideRecord(record, "CompanyName"), std::nullopt);
+}
+
+TEST(WideRecordTest, ATableThatWasFoundGivesEveryValue) {
+  const std::string record = TwoLanguages({{0x040C, 0x04B0}});
+  const WideTable table = FindWideTable(record);
+  for (const char* key : {"ProductName", "FileDescription", "CompanyName"}) {
+    EXPECT_EQ(ValueInWideTable(record, table, key), ValueInWideRecord(record, key)) << key;
+  }
+  EXPECT_EQ(ValueInWideTable(record, {}, "ProductName"), std::nullopt);
 }
 
 // Tables that were told too short: the last string reaches beyond.
@@ -183,7 +208,7 @@ TEST(WideRecordTest, AStringMayReachBeyondItsTable) {
   const Writer w;
   std::string table = w.Table(u"040C04B0", {w.String(u"ProductName", u"Jeu de dames")});
   table.replace(0, 2, U16(table.size() - 10));
-  EXPECT_THAT(ValueInWideRecord(w.Record({w.Strings({table})}), u"ProductName"),
+  EXPECT_THAT(ValueInWideRecord(w.Record({w.Strings({table})}), "ProductName"),
               Optional(Eq(u"Jeu de dames")));
 }
 
@@ -193,10 +218,10 @@ TEST(WideRecordTest, ALengthThatLeadsOutOfTheRecordEndsWithIt) {
   string.replace(0, 2, U16(60000));
   const std::string table = w.Table(u"040C04B0", {w.String(u"FileVersion", u"1.0"), string});
   std::string record = w.Record({w.Strings({table})});
-  EXPECT_THAT(ValueInWideRecord(record, u"FileVersion"), Optional(Eq(u"1.0")));
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "FileVersion"), Optional(Eq(u"1.0")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
   record.replace(0, 2, U16(65535));
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
 }
 
 TEST(WideRecordTest, ALengthThatCannotBeEndsTheReadingThere) {
@@ -206,23 +231,16 @@ TEST(WideRecordTest, ALengthThatCannotBeEndsTheReadingThere) {
     bad.replace(0, 2, U16(length));
     const std::string record = w.Record({w.Strings({w.Table(
         u"040C04B0", {w.String(u"FileVersion", u"1.0"), bad, w.String(u"ProductName", u"n")})})});
-    EXPECT_THAT(ValueInWideRecord(record, u"FileVersion"), Optional(Eq(u"1.0")));
-    EXPECT_EQ(ValueInWideRecord(record, u"ProductName"), std::nullopt);
+    EXPECT_THAT(ValueInWideRecord(record, "FileVersion"), Optional(Eq(u"1.0")));
+    EXPECT_EQ(ValueInWideRecord(record, "ProductName"), std::nullopt);
   }
 }
 
 // --- Languages ---
 
-std::string TwoLanguages(const std::vector<std::pair<unsigned, unsigned>>& languages) {
-  const Writer w;
-  return w.Record({w.Strings({w.Table(u"040904B0", {w.String(u"ProductName", u"Draughts")}),
-                              w.Table(u"040c04b0", {w.String(u"ProductName", u"Dames")})}),
-                   w.Translation(languages)});
-}
-
 TEST(WideRecordTest, TheTableThatTheTranslationNamesFirstCounts) {
   const auto name = [](const std::string& record) {
-    return ValueInWideRecord(record, u"ProductName");
+    return ValueInWideRecord(record, "ProductName");
   };
   EXPECT_THAT(name(TwoLanguages({{0x040C, 0x04B0}, {0x0409, 0x04B0}})), Optional(Eq(u"Dames")));
   EXPECT_THAT(name(TwoLanguages({{0x0409, 0x04B0}, {0x040C, 0x04B0}})), Optional(Eq(u"Draughts")));
@@ -239,7 +257,7 @@ TEST(WideRecordTest, TheNeutralLanguageIsATranslationToo) {
       w.Record({w.Strings({w.Table(u"040904B0", {w.String(u"ProductName", u"Draughts")}),
                            w.Table(u"000004B0", {w.String(u"ProductName", u"Dames")})}),
                 w.Translation({{0, 0x04B0}})});
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
 }
 
 TEST(WideRecordTest, TheTranslationMayStandBeforeTheStrings) {
@@ -248,7 +266,7 @@ TEST(WideRecordTest, TheTranslationMayStandBeforeTheStrings) {
       w.Record({w.Translation({{0x040C, 0x04B0}}),
                 w.Strings({w.Table(u"040904B0", {w.String(u"ProductName", u"Draughts")}),
                            w.Table(u"040C04B0", {w.String(u"ProductName", u"Dames")})})});
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
 }
 
 TEST(WideRecordTest, ARecordMayHaveTwoBlocksOfStrings) {
@@ -257,7 +275,7 @@ TEST(WideRecordTest, ARecordMayHaveTwoBlocksOfStrings) {
       w.Record({w.Strings({w.Table(u"040904B0", {w.String(u"ProductName", u"Draughts")})}),
                 w.Strings({w.Table(u"040C04B0", {w.String(u"ProductName", u"Dames")})}),
                 w.Translation({{0x040C, 0x04B0}})});
-  EXPECT_THAT(ValueInWideRecord(record, u"ProductName"), Optional(Eq(u"Dames")));
+  EXPECT_THAT(ValueInWideRecord(record, "ProductName"), Optional(Eq(u"Dames")));
 }
 
 // --- What is no such record ---
@@ -267,7 +285,7 @@ TEST(WideRecordTest, OtherBytesHoldNoValue) {
   for (const std::string& bytes :
        {std::string(), std::string("\x20"), eight, std::string(500, '\0'), std::string(500, '\xFF'),
         Writer().Node(u"VS_VERSION", 0, 0, "")}) {
-    EXPECT_EQ(ValueInWideRecord(bytes, u"ProductName"), std::nullopt);
+    EXPECT_EQ(ValueInWideRecord(bytes, "ProductName"), std::nullopt);
   }
 }
 
@@ -275,7 +293,7 @@ TEST(WideRecordTest, ARecordThatIsCutShortIsReadAsFarAsItGoes) {
   const std::string record = Writer().Jeu();
   std::size_t whole = 0;
   for (std::size_t length = 0; length < record.size(); ++length) {
-    const auto value = ValueInWideRecord(record.substr(0, length), u"FileDescription");
+    const auto value = ValueInWideRecord(record.substr(0, length), "FileDescription");
     EXPECT_TRUE(Text(u"Jeu de dames").starts_with(value.value_or(u""))) << length;
     if (value == Text(u"Jeu de dames")) ++whole;
   }
@@ -289,7 +307,7 @@ TEST(WideRecordTest, NoNumberLeadsTheReadingAstray) {
     for (const std::size_t number : {0u, 1u, 6u, 7u, 0x7FFFu, 0xFFFFu}) {
       std::string wrong = record;
       wrong.replace(at, 2, U16(number));
-      const auto value = ValueInWideRecord(wrong, u"ProductName");
+      const auto value = ValueInWideRecord(wrong, "ProductName");
       EXPECT_LE(value.value_or(u"").size(), record.size() / 2);
     }
   }

@@ -9,10 +9,10 @@
 #include "Apps/trovex-cli/DiscHost.h"
 #include "Apps/trovex-cli/DiskSpelling.h"
 #include "Apps/trovex-cli/Incomplete.h"
-#include "Apps/trovex-cli/NewFile.h"
 #include "Apps/trovex-cli/Progress.h"
 #include "Platform/Encoding.h"
 #include "Platform/Host.h"
+#include "Platform/NewFile.h"
 #include "Screen/LIB_GENERALE.h"
 #include "Ui/Directory.h"
 #include "Ui/FormsScope.h"
@@ -31,13 +31,6 @@ std::string Utf8Of(const std::u8string& text) {
   return {text.begin(), text.end()};
 }
 
-// The name whole, before the program goes elsewhere.
-fs::path Absolute(const std::string& name) {
-  std::error_code error;
-  const fs::path whole = fs::absolute(PathOf(name), error);
-  return error ? PathOf(name) : whole;
-}
-
 // As seen from a directory, '/' between; whole where no way leads there.
 std::string Relative(const std::string& name, const fs::path& directory) {
   const fs::path path = PathOf(name);
@@ -45,31 +38,61 @@ std::string Relative(const std::string& name, const fs::path& directory) {
   return Utf8Of((relative.empty() ? path : relative).generic_u8string());
 }
 
-// The report's file, and the list of digests beside it.
+// The name of the list of digests beside a report.
+std::string DigestsOf(const std::string& report) {
+  return Utf8Of(PathOf(report).replace_extension(".sha1").u8string());
+}
+
+// The report's file, and the list of digests beside it, on a host that stays for all the discs.
+// Once something could not be written, neither is wanted any more.
 class Files {
  public:
-  Files(const std::string& report, bool hash)
-      : form_(FormOf(report)), hash_(hash), rows_(Absolute(report)) {
-    if (hash) digests_.emplace(Absolute(report).replace_extension(".sha1"));
-    rows_.Write(ReportHead(form_, hash));
+  explicit Files(const Options& options)
+      : host_(OpenHostWithoutDisc(static_cast<char16_t>(options.drive))),
+        form_(FormOf(*options.report)),
+        hash_(options.hash) {
+    Try([&] {
+      rows_.emplace(host_->GetPlatform(), host_->NameOf(*options.report));
+      rows_->Write(ReportHead(form_, hash_));
+      if (hash_) digests_.emplace(host_->GetPlatform(), host_->NameOf(DigestsOf(*options.report)));
+    });
   }
 
   bool Hash() const { return hash_; }
-  bool Good() const { return rows_.Good() && (!digests_ || digests_->Good()); }
+  bool Good() const { return good_; }
 
-  void Put(const ReportRow& row) { rows_.Write(ReportLine(form_, row)); }
+  void Put(const ReportRow& row) {
+    Try([&] { rows_->Write(ReportLine(form_, row)); });
+  }
   void PutDigest(const ReportRow& row, const std::string& path) {
-    if (digests_) digests_->Write(DigestLine(*row.sha1, path));
+    Try([&] { digests_->Write(DigestLine(*row.sha1, path)); });
   }
   // A list of digests without its report would be no harm, but a report without its list is not
   // what was asked for.
-  bool Commit() { return Good() && (!digests_ || digests_->Commit()) && rows_.Commit(); }
+  bool Keep() {
+    Try([&] {
+      if (digests_) digests_->Keep();
+      rows_->Keep();
+    });
+    return good_;
+  }
 
  private:
+  template <typename Step>
+  void Try(Step step) {
+    if (!good_) return;
+    try {
+      step();
+    } catch (const RuntimeError&) {
+      good_ = false;
+    }
+  }
+
+  std::unique_ptr<Host> host_;
   ReportForm form_;
   bool hash_;
-  NewFile rows_;
-  std::optional<NewFile> digests_;
+  std::optional<NewFile> rows_, digests_;
+  bool good_ = true;
 };
 
 // The rows of one disc.
@@ -77,6 +100,8 @@ class DiscRows {
  public:
   DiscRows(std::string disc, Host& host, Files& files, const fs::path& directory)
       : host_(host), files_(files), directory_(directory), disc_(std::move(disc)) {
+    std::error_code error;
+    in_directory_ = fs::is_directory(directory_ / PathOf(disc_), error);
     volume_ = ToStrictUtf8(host.GetPlatform().GetVolumeLabel(host.Start().substr(0, kDriveRoot)));
     RegisterFindingListener([this](const Finding& finding) { Take(finding); });
   }
@@ -102,7 +127,7 @@ class DiscRows {
   void AddContents(const Text& name, ReportRow& row) {
     if (!ReadContents(host_.GetPlatform(), name, files_.Hash(), row)) {
       NoteUnread(name);
-    } else if (files_.Hash()) {
+    } else if (files_.Hash() && in_directory_) {
       files_.PutDigest(row, Relative(host_.UserNameOf(name), directory_));
     }
   }
@@ -111,6 +136,7 @@ class DiscRows {
   Files& files_;
   const fs::path& directory_;  // that digests are told from
   const std::string disc_;
+  bool in_directory_ = false;  // not in an image, where no other program finds a file by its name
   std::string volume_;
   DiskSpelling spelling_;
   Text walked_, location_;  // of the directory in hand
@@ -119,7 +145,7 @@ class DiscRows {
 class Reporter {
  public:
   Reporter(const Options& options, std::ostream& err, bool progress)
-      : options_(options), err_(err), progress_(progress), files_(*options.report, options.hash) {
+      : options_(options), err_(err), progress_(progress), files_(options) {
     std::error_code error;
     directory_ = fs::current_path(error);
   }
@@ -129,7 +155,7 @@ class Reporter {
     for (std::size_t i = 0; i < options_.discs.size() && files_.Good(); ++i) {
       whole = Catalogue(i) && whole;
     }
-    if (files_.Commit()) return whole ? kDone : kIncomplete;
+    if (files_.Keep()) return whole ? kDone : kIncomplete;
     err_ << "trovex-cli: " << Printable(FromUtf8(*options_.report)) << ": cannot be written\n";
     return kExportFailed;
   }
