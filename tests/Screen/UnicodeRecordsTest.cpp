@@ -31,6 +31,7 @@ class UnicodeRecordsTest : public HtmlExportTest {
 };
 
 TEST_F(UnicodeRecordsTest, TheEntryIsTheLastOfTheWindowMenuAndOff) {
+  EXPECT_EQ(form.MenuEntries().back().get(), &form.LireFichesUnicode);
   EXPECT_EQ(form.LireFichesUnicode.Caption(), u"Lire les fiches de version Unicode");
   EXPECT_FALSE(form.LireFichesUnicode.Checked());
 }
