@@ -35,6 +35,7 @@ void Seeds(const TakeSeed& take) {
     take("pe" + with, test::PeExecutable(record, icon));
   }
   take("ico", test::IconFile());
+  take("png", test::PngIconFile());
 }
 
 }  // namespace trovex::fuzz

@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "support/DamagedIcons.h"
 #include "support/DamagedPrograms.h"
 #include "support/ExecutableBuilder.h"
 #include "support/MemorySource.h"
@@ -20,17 +21,9 @@ std::vector<std::string> Samples() {
   return {NeExecutable({}, Icon::kPresent), PeExecutable({}, Icon::kPresent), IconFile()};
 }
 
-void SetNumber(std::string& file, std::size_t at, std::uint32_t number, std::size_t size) {
-  std::memcpy(file.data() + at, &number, size);
-}
-
-// Where the one image of a sample begins: a head of 40 bytes, 32 pixels wide.
-std::size_t ImageIn(const std::string& file) {
-  return file.find(std::string("\x28\0\0\0\x20\0\0\0", 8));
-}
-
 TEST(IconResource, SoundIconsAreFound) {
   for (const std::string& sample : Samples()) EXPECT_TRUE(Holds(sample));
+  EXPECT_TRUE(Holds(PngIconFile()));
 }
 
 TEST(IconResource, AnIconWithoutItsMaskIsFound) {
@@ -41,29 +34,17 @@ TEST(IconResource, AnIconWithoutItsMaskIsFound) {
   EXPECT_FALSE(Holds(file.substr(0, file.size() - mask - 1)));
 }
 
-TEST(IconResource, AHeadThatNoBitmapHasIsNone) {
-  struct Field {
-    std::size_t at, size;
-    std::uint32_t value;
-  };
-  const Field fields[] = {
-      {0, 4, 12},      // another form of head
-      {4, 4, 0},       // width
-      {4, 4, 1025},    // width
-      {8, 4, 0},       // height
-      {8, 4, 4096},    // height
-      {12, 2, 2},      // planes
-      {14, 2, 3},      // bits a pixel
-      {14, 2, 32},     // more bits than there are
-      {16, 4, 1},      // compressed
-      {32, 4, 100000}  // colours of the palette
-  };
-  for (const std::string& sample : Samples()) {
-    for (const Field& field : fields) {
-      std::string file = sample;
-      SetNumber(file, ImageIn(file) + field.at, field.value, field.size);
-      EXPECT_FALSE(Holds(file)) << field.at << ' ' << field.value;
-    }
+TEST(IconResource, DamageOfEachKindIsNone) {
+  for (const DamagedIcon& icon : DamagedIcons()) EXPECT_FALSE(Holds(icon.contents)) << icon.what;
+}
+
+TEST(IconResource, APngImageChangedAnywhereOrCutShortIsNone) {
+  const std::string whole = PngIconFile();
+  for (std::size_t at = 22; at < whole.size(); ++at) {
+    std::string file = whole;
+    file[at] = static_cast<char>(file[at] ^ 0x10);
+    EXPECT_FALSE(Holds(file)) << at;
+    EXPECT_FALSE(Holds(whole.substr(0, at))) << at;
   }
 }
 

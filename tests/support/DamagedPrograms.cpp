@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string_view>
 
+#include "support/DamagedIcons.h"
 #include "support/ExecutableBuilder.h"
 
 namespace trovex::test {
@@ -26,12 +27,6 @@ constexpr std::size_t kRecordHeadSize = 8;
 struct Fields {
   std::size_t begin, end, width;
 };
-
-void SetNumber(std::string& bytes, std::size_t at, std::uint32_t number, std::size_t width) {
-  for (std::size_t i = 0; i < width; ++i) {
-    bytes[at + i] = static_cast<char>(number >> (8 * i) & 0xFF);
-  }
-}
 
 // Of a field of `width` bytes: nothing, the least, and both sides of the sign.
 std::array<std::uint32_t, 5> Extremes(std::size_t width) {
@@ -59,6 +54,13 @@ class Damages {
   void Cut(const std::string& folder, const std::string& whole, std::size_t step) {
     for (std::size_t size = 0; size < whole.size(); size += step) {
       programs.push_back({folder + Name("/C%05u.EXE", size, 0), whole.substr(0, size)});
+    }
+  }
+
+  void AddIcons(const std::string& folder) {
+    std::size_t number = 0;
+    for (const DamagedIcon& icon : DamagedIcons()) {
+      programs.push_back({folder + Name("/I%05u.EXE", number++, 0), icon.contents});
     }
   }
 
@@ -119,6 +121,7 @@ std::vector<DamagedProgram> DamagedPrograms() {
   Damages damages;
   AddNe(damages);
   AddPe(damages, "PE", VersionBlock8(kStrings));
+  damages.AddIcons("ICONES");
   return std::move(damages.programs);
 }
 

@@ -368,6 +368,20 @@ std::string IconFile() {
   return file.U32(image.size()).U32(kDirectorySize).Append(image).Take();
 }
 
+std::string PngIconFile() {
+  static constexpr std::string_view kImage(
+      "\x89PNG\r\n\x1A\n"
+      "\0\0\0\x0DIHDR\0\0\0\x20\0\0\0\x20\x08\x06\0\0\0\x73\x7A\x7A\xF4"  // 4 x 8 bits a pixel
+      "\0\0\0\x1AIDAT\x78\xDA\xED\xC1\x01\x01\0\0\0\x82\x20\xFF\xAF\x6E\x48\x40\x01"
+      "\0\0\0\xEF\x06\x10\x20\0\x01\xC9\xB5\xC3\xB1"
+      "\0\0\0\0IEND\xAE\x42\x60\x82",
+      8 + 25 + 38 + 12);
+  constexpr std::size_t kDirectorySize = 6 + 16;
+  Bytes file;
+  file.U16(0).U16(1).U16(1).U8(kIconSide).U8(kIconSide).U8(0).U8(0).U16(1).U16(32);
+  return file.U32(kImage.size()).U32(kDirectorySize).Append(kImage).Take();
+}
+
 std::string ZipArchive(std::size_t size) {
   // Too small for a member: the bytes stand in the archive's comment.
   if (size < kZipOverhead) return ZipEnd(0, 0, 0, size - kZipEndSize);

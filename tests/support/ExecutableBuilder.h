@@ -29,6 +29,8 @@ std::string PeExecutable(std::string_view block, Icon icon = Icon::kNone);
 std::string DosExecutable();
 // The icon of these executables as an .ico file.
 std::string IconFile();
+// An .ico file with one 32x32 image in the PNG format, all of it transparent.
+std::string PngIconFile();
 // A ZIP archive of `size` bytes (at least 22) with one stored member of zeros;
 // below 114 bytes it is empty, and blanks in its comment make up the size.
 std::string ZipArchive(std::size_t size);

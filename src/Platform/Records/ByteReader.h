@@ -16,6 +16,7 @@ class ByteView {
  public:
   explicit ByteView(std::string_view bytes) : bytes_(bytes) {}
   // The number at `at`; 0 where it does not lie wholly inside.
+  std::uint8_t U8(std::size_t at) const { return static_cast<std::uint8_t>(Number(at, 1)); }
   std::uint16_t U16(std::size_t at) const { return static_cast<std::uint16_t>(Number(at, 2)); }
   std::uint32_t U32(std::size_t at) const { return Number(at, 4); }
 

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "Platform/Records/Executable.h"
+#include "Platform/Records/PngImage.h"
 
 namespace trovex::records {
 namespace {
@@ -23,7 +24,7 @@ constexpr std::size_t kPlaceAt = 12;
 constexpr std::size_t kBitmapHeadSize = 40;
 constexpr std::uint32_t kMaxSide = 1024;
 constexpr std::uint32_t kMaxPalette = 256;
-constexpr std::uint32_t kBitFields = 3;  // three masks stand before the colours
+constexpr std::uint32_t kPlain = 0;  // neither compressed nor with masks of bits
 constexpr std::uint32_t kPngSignature = 0x474E5089;
 
 constexpr std::uint64_t kMaxImage = 8 << 20;
@@ -40,25 +41,33 @@ std::uint64_t RowBytes(std::uint32_t width, std::uint16_t bits) {
   return (std::uint64_t{width} * bits + 31) / 32 * 4;
 }
 
-// Bytes of the head, the palette and the colours; nothing for what is no bitmap of an icon.
-std::optional<std::uint64_t> BytesNeeded(const ByteView& head) {
-  const std::uint32_t width = head.U32(4), height = head.U32(8) / 2;
+bool IsSide(std::uint32_t pixels) {
+  return pixels > 0 && pixels <= kMaxSide;
+}
+
+// The colours of the palette, by its head's count or, without one, as many as there can be.
+std::uint32_t ColoursOf(const ByteView& head) {
   const std::uint16_t bits = head.U16(14);
-  const std::uint32_t compression = head.U32(16);
-  std::uint32_t palette = head.U32(32);
+  const std::uint32_t colours = head.U32(32);
+  return colours == 0 && bits <= 8 ? 1U << bits : colours;
+}
+
+// Bytes of the head, the palette and the colours; nothing for what is no bitmap of an icon: that is
+// one of plain colours, since systems differ in what else they take.
+std::optional<std::uint64_t> BytesNeeded(const ByteView& head) {
+  const std::uint32_t width = head.U32(4), height = head.U32(8) / 2, colours = ColoursOf(head);
+  const std::uint16_t bits = head.U16(14);
   if (head.U32(0) != kBitmapHeadSize || head.U16(12) != 1 || !IsDepth(bits)) return std::nullopt;
-  if (width == 0 || width > kMaxSide || height == 0 || height > kMaxSide) return std::nullopt;
-  if ((compression != 0 && compression != kBitFields) || palette > kMaxPalette) return std::nullopt;
-  if (palette == 0 && bits <= 8) palette = 1U << bits;
-  const std::uint64_t masks = compression == kBitFields ? 3 : 0;
-  return kBitmapHeadSize + 4 * (masks + palette) + RowBytes(width, bits) * height;
+  if (!IsSide(width) || !IsSide(height) || head.U32(16) != kPlain) return std::nullopt;
+  if (colours > (bits <= 8 ? 1U << bits : kMaxPalette)) return std::nullopt;
+  return kBitmapHeadSize + 4 * std::uint64_t{colours} + RowBytes(width, bits) * height;
 }
 
 bool IsSoundImage(ByteReader& file, const Extent& place) {
   if (!IsInside(file, place)) return false;
   const auto head = file.At(place.offset, kBitmapHeadSize);
   if (!head) return false;
-  if (head->U32(0) == kPngSignature) return true;
+  if (head->U32(0) == kPngSignature) return IsSoundPng(file, place, kMaxSide);
   const auto needed = BytesNeeded(*head);
   return needed && *needed <= place.size;
 }

@@ -9,6 +9,8 @@ constexpr std::size_t kResidentNamesAt = 0x26;
 constexpr std::size_t kTargetSystemAt = 0x36;
 constexpr std::uint16_t kTargetOs2 = 1;  // whose resource table looks otherwise
 
+constexpr std::size_t kShiftSize = 2;
+constexpr std::size_t kTypeEndSize = 2;      // a type of zero, where no more come
 constexpr std::uint16_t kNumbered = 0x8000;  // marks a number in the place of a name
 constexpr std::size_t kTypeSize = 8;         // type, count, reserved
 constexpr std::size_t kResourceSize = 12;    // offset, length, flags, name, reserved
@@ -24,14 +26,33 @@ NeResources::NeResources(ByteReader& file, std::uint64_t header) : file_(file) {
   // A file without resources lets both tables begin at the same place.
   if (ne->U16(kResourceTableAt) == ne->U16(kResidentNamesAt)) return;
   const std::uint64_t at = header + ne->U16(kResourceTableAt);
-  const auto table = file.At(at, 2);
+  const auto table = file.At(at, kShiftSize);
   if (!table || table->U16(0) > kMaxShift) return;
   shift_ = table->U16(0);
   table_ = at;
+  names_ = header + ne->U16(kResidentNamesAt);
+}
+
+// Readers go on to the next type even behind the one they wanted, and some take the last of
+// several.
+bool NeResources::IsWhole() const {
+  std::uint64_t at = table_ + kShiftSize;
+  int icons = 0, groups = 0;
+  for (int types = 0; table_ != 0 && types < kMaxTypes; ++types) {
+    const auto end = file_.At(at, kTypeEndSize);
+    if (!end) return false;
+    if (end->U16(0) == 0) return at + kTypeEndSize <= names_ && icons <= 1 && groups <= 1;
+    const auto type = file_.At(at, kTypeSize);
+    if (!type) return false;
+    icons += type->U16(0) == (kNumbered | kIconType);
+    groups += type->U16(0) == (kNumbered | kIconGroupType);
+    at += kTypeSize + type->U16(2) * kResourceSize;
+  }
+  return false;
 }
 
 NeResources::Entries NeResources::EntriesOf(std::uint16_t wanted) const {
-  std::uint64_t at = table_ + 2;
+  std::uint64_t at = table_ + kShiftSize;
   for (int types = 0; table_ != 0 && types < kMaxTypes; ++types) {
     const auto type = file_.At(at, kTypeSize);
     if (!type || type->U16(0) == 0) break;
@@ -56,13 +77,16 @@ std::optional<Extent> NeResources::First(std::uint16_t type) const {
 
 std::optional<Extent> NeResources::Numbered(std::uint16_t type, std::uint16_t number) const {
   const Entries entries = EntriesOf(type);
+  std::optional<Extent> found;
   for (std::size_t i = 0; i < entries.count; ++i) {
     const std::uint64_t at = entries.at + i * kResourceSize;
     const auto entry = file_.At(at, kResourceSize);
-    if (!entry) break;
-    if (entry->U16(6) == (kNumbered | number)) return EntryAt(at);
+    if (!entry) return std::nullopt;
+    if (entry->U16(6) != (kNumbered | number)) continue;
+    if (found) return std::nullopt;
+    found = EntryAt(at);
   }
-  return std::nullopt;
+  return found;
 }
 
 }  // namespace trovex::records

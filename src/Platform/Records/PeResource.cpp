@@ -29,6 +29,8 @@ constexpr std::size_t kTableSize = 16;  // header of a table of resources
 constexpr std::size_t kEntrySize = 8;
 constexpr std::size_t kLeafSize = 8;  // address and size
 constexpr std::uint32_t kSubtable = 0x80000000;
+constexpr std::uint32_t kNamed = 0x80000000;
+constexpr std::uint32_t kMaxNumber = 0xFFFF;
 constexpr std::uint32_t kMaxEntries = 4096;
 
 std::optional<std::uint32_t> Subtable(std::optional<std::uint32_t> target) {
@@ -86,6 +88,13 @@ std::optional<std::uint64_t> PeResources::OffsetOf(std::uint32_t address) const 
 }
 
 bool PeResources::IsWhole() const {
+  const auto ordered = [this](std::uint16_t type) {
+    return IsOrdered(Subtable(NumberedIn(0, type)));
+  };
+  return SectionsAreWhole() && IsOrdered(0) && ordered(kIconType) && ordered(kIconGroupType);
+}
+
+bool PeResources::SectionsAreWhole() const {
   if (!root_ || flat_ || resources_ < headers_size_) return false;
   std::uint64_t end = 0;
   bool own_section = false;
@@ -112,6 +121,24 @@ std::optional<std::uint32_t> PeResources::FirstIn(std::uint32_t at) const {
   return first ? std::optional(first->U32(4)) : std::nullopt;
 }
 
+// Some readers halve their way to a number.
+bool PeResources::IsOrdered(std::optional<std::uint32_t> at) const {
+  const auto table = at ? file_.At(*root_ + *at, kTableSize) : std::nullopt;
+  if (!table) return false;
+  const std::uint32_t named = table->U16(12), count = named + table->U16(14);
+  if (count > kMaxEntries) return false;
+  std::uint32_t least = 0;
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const auto entry = file_.At(*root_ + *at + kTableSize + i * kEntrySize, kEntrySize);
+    if (!entry) return false;
+    const std::uint32_t id = entry->U32(0);
+    const bool in_order = i < named ? (id & kNamed) != 0 : id >= least && id <= kMaxNumber;
+    if (!in_order) return false;
+    if (i >= named) least = id + 1;
+  }
+  return true;
+}
+
 std::optional<std::uint32_t> PeResources::NumberedIn(std::uint32_t at, std::uint32_t number) const {
   const auto table = file_.At(*root_ + at, kTableSize);
   if (!table) return std::nullopt;
@@ -132,6 +159,7 @@ std::optional<Extent> PeResources::LanguageOf(std::optional<std::uint32_t> name,
   if (!table || table->U16(12) != 0) return std::nullopt;  // no language has a name
   auto target = FirstIn(*languages);
   if (target && type != kVersionType) {
+    if (!IsOrdered(languages)) return std::nullopt;
     const auto neutral = NumberedIn(*languages, 0);
     if (neutral) target = neutral;
   }

@@ -28,11 +28,12 @@ class NeResources {
  public:
   NeResources(ByteReader& file, std::uint64_t header);
 
-  // The first resource of a type, and the one of a type and number.
+  // The first resource of a type, and the one of a type and number; nothing where several have it.
   std::optional<Extent> First(std::uint16_t type) const;
   std::optional<Extent> Numbered(std::uint16_t type, std::uint16_t number) const;
-  // As that of PeResources; here each resource's place says all there is.
-  bool IsWhole() const { return table_ != 0; }
+  // True if the table comes to its end inside the file and before the names that follow it, and has
+  // one run of icons and one of groups at most: then every reader finds the same resources in it.
+  bool IsWhole() const;
 
  private:
   struct Entries {
@@ -44,6 +45,7 @@ class NeResources {
 
   ByteReader& file_;
   std::uint64_t table_ = 0;  // 0 where the program has none
+  std::uint64_t names_ = 0;  // the names behind it
   unsigned shift_ = 0;       // offsets and lengths count in units of 1 << shift
 };
 
@@ -55,8 +57,9 @@ class PeResources {
   // Of the first name, and of that number.
   std::optional<Extent> First(std::uint16_t type) const;
   std::optional<Extent> Numbered(std::uint16_t type, std::uint16_t number) const;
-  // True if the contents of all sections are there and begin where a sector does, and the resources
-  // stand at the beginning of one of them: then every reader takes the same bytes for them.
+  // True if the contents of all sections are there and begin where a sector does, the resources
+  // stand at the beginning of one of them, and what leads to icons is in order: then every reader
+  // takes the same bytes for them.
   bool IsWhole() const;
 
  private:
@@ -66,6 +69,9 @@ class PeResources {
 
   bool ReadOptionalHeader(std::uint64_t at, std::size_t size);
   bool ReadSections(std::uint64_t at, std::size_t count);
+  bool SectionsAreWhole() const;
+  // True if a table's entries are all there, named ones before numbered ones, these ascending.
+  bool IsOrdered(std::optional<std::uint32_t> table) const;
   // Where an address of the loaded program lies in the file.
   std::optional<std::uint64_t> OffsetOf(std::uint32_t address) const;
   // Each gives what the entry leads to, counted from the root table.

@@ -1,5 +1,6 @@
 // Icons of files on a disc.
 #include "Platform/contract/Contract.h"
+#include "support/DamagedIcons.h"
 #include "support/DamagedPrograms.h"
 #include "support/ExecutableBuilder.h"
 
@@ -21,6 +22,7 @@ TEST_F(IconContract, SoundIconsAreThere) {
   EXPECT_EQ(IconsOf(NeExecutable({}, Icon::kPresent)), 1);
   EXPECT_EQ(IconsOf(PeExecutable({}, Icon::kPresent)), 1);
   EXPECT_EQ(IconsOf(IconFile()), 1);
+  EXPECT_EQ(IconsOf(PngIconFile()), 1);
 }
 
 TEST_F(IconContract, WhatHasNoIconGivesNone) {
@@ -47,7 +49,11 @@ TEST_F(IconContract, AnIconCutShortIsNone) {
   EXPECT_EQ(IconsOf(icon.substr(0, 22)), 0);
 }
 
-// The system's own functions end the program on some of these.
+// The system's own functions end the program on some of these, or answer otherwise.
+TEST_F(IconContract, DamageOfEachKindGivesNone) {
+  for (const DamagedIcon& icon : DamagedIcons()) EXPECT_EQ(IconsOf(icon.contents), 0) << icon.what;
+}
+
 TEST_F(IconContract, DamagedExecutablesGiveAnAnswer) {
   int found = 0, none = 0;
   for (const DamagedProgram& program : SomeDamagedPrograms()) {
