@@ -12,8 +12,9 @@ namespace trovex {
 namespace {
 
 constexpr int kLastNumber = 511;
-constexpr std::size_t kPiece = 4096;         // bytes read at a time
-constexpr std::size_t kWriteBuffer = 65536;  // bytes written at a time
+constexpr std::size_t kPiece = 4096;            // bytes read at a time
+constexpr std::size_t kWriteBuffer = 65536;     // bytes written at a time
+constexpr std::size_t kLongestRest = 16777216;  // bytes passed over for the sake of the next line
 
 class OpenFile {
  public:
@@ -87,10 +88,16 @@ class OpenFile {
   }
 
   void PassLine() {
-    while (!AtEnd()) {
+    for (std::size_t passed = 0; !AtEnd(); passed += kPiece) {
+      if (passed > kLongestRest) return End();
       place_ = LineEnd();
       if (place_ < buffer_.size()) return SkipLineEnd();
     }
+  }
+
+  void End() {
+    place_ = buffer_.size();
+    ended_ = true;
   }
 
   void SkipLineEnd() {

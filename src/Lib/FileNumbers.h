@@ -26,7 +26,8 @@ inline constexpr std::size_t kLongestLine = 1048576;  // characters
 inline constexpr std::size_t kWholeLine = std::numeric_limits<std::size_t>::max();
 
 // The next line, without its end (CR LF, CR or LF); only its first `longest` characters are kept,
-// the rest is passed over in pieces. Raises kEndOfFile, kDeviceIo.
+// the rest is passed over in pieces. A rest of more than 16777216 characters is none that anybody
+// reads: the file then counts as at its end. Raises kEndOfFile, kDeviceIo.
 Text LineInput(int number, std::size_t longest = kWholeLine);
 
 // The first `longest` characters of the next line, or all of it if it is shorter. Nothing behind

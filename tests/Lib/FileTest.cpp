@@ -477,6 +477,17 @@ TEST_F(LoadTest, ALineIsShownToItsMillionthCharacter) {
   EXPECT_EQ(box.GetText(), Text(1048576, u'x') + u"\r\ndeux");
 }
 
+// A file of 5 GiB without line ends was read to its end.
+TEST_F(LoadTest, NothingIsShownBehindALineThatDoesNotEnd) {
+  constexpr std::size_t kShown = 1048576, kRest = 16777216;
+  disc.File("A.TXT", "un\r\n" + std::string(kShown + kRest - 10000, 'x') + "\r\ntrois\r\n");
+  ChargeTexte(u"D:\\A.TXT", box);
+  EXPECT_TRUE(box.GetText().ends_with(u"x\r\ntrois"));
+  disc.File("A.TXT", "un\r\n" + std::string(kShown + kRest + 10000, 'x') + "\r\ntrois\r\n");
+  ChargeTexte(u"D:\\A.TXT", box);
+  EXPECT_EQ(box.GetText(), u"un\r\n" + Text(kShown, u'x'));
+}
+
 TEST_F(LoadTest, ATextIsShownToItsFourMillionthCharacter) {
   std::string contents;
   for (int line = 0; line < 6; ++line) contents += std::string(1000000, 'x') + "\r\n";

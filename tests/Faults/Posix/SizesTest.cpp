@@ -182,6 +182,12 @@ TEST_F(SizesTest, SettingsOf5GiBAreReadWhereTheKeyStandsEarly) {
   EXPECT_EQ(Programs(Catalogue())[0][0], "Un titre");
 }
 
+TEST_F(SizesTest, TextsOf5GiBAreReadAtTheirBeginning) {
+  OnDisc("JEU.EXE", DosExecutable());
+  Sparse("README.TXT", "Un texte sans fin\r\n", kFiveGiB);
+  EXPECT_EQ(Programs(Catalogue(cli::kDone, {"--inspect"}))[0][0], "Un texte sans fin");
+}
+
 TEST_F(SizesTest, DatesBefore1970AndAfter2038AreShown) {
   OnDisc("AVANT.ZIP", ZipArchive(2000));
   OnDisc("APRES.ZIP", ZipArchive(2000));
