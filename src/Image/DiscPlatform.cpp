@@ -139,6 +139,12 @@ void DiscPlatform::FindClose(FindHandle handle) {
   searches_.erase(static_cast<std::int64_t>(handle));
 }
 
+bool DiscPlatform::CanBeListed(const Text& directory) {
+  const Name name = Resolve(directory);
+  return name.drive == nullptr ? Target().CanBeListed(directory)
+                               : name.drive->Open(name.full) != nullptr;
+}
+
 std::shared_ptr<HeldDirectory> DiscPlatform::OpenDirectory(const Text& directory) {
   // "X:" is the root here, not the drive's current directory.
   const Name name = Resolve(directory.ends_with(u':') ? directory + u'\\' : directory);

@@ -29,6 +29,7 @@ class DiscPlatform : public ForwardingPlatform {
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool FindNextFile(FindHandle handle, FindData& data) override;
   void FindClose(FindHandle handle) override;
+  bool CanBeListed(const Text& directory) override;
   std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override;
   bool GetFileStatus(const Text& name, FileStatus& status) override;
   Reading GetFileProperties(const Text& name, FileStatus& status, std::string& record) override;

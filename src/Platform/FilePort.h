@@ -79,6 +79,9 @@ class FilePort {
   virtual bool FindNextFile(FindHandle handle, FindData& data) = 0;
   virtual void FindClose(FindHandle handle) = 0;
 
+  // Whether a directory is there and can be listed, be it empty; its name with a final backslash.
+  virtual bool CanBeListed(const Text& directory) = 0;
+
   // --- Files ------------------------------------------------------------------------------
 
   // Length, date and attributes of a file or directory; false where there is none such (a FIFO or

@@ -19,6 +19,7 @@ class ForwardingFiles : public virtual FilePort {
     return target_.FindNextFile(handle, data);
   }
   void FindClose(FindHandle handle) override { target_.FindClose(handle); }
+  bool CanBeListed(const Text& directory) override { return target_.CanBeListed(directory); }
   bool GetFileStatus(const Text& name, FileStatus& status) override {
     return target_.GetFileStatus(name, status);
   }

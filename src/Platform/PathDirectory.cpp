@@ -110,8 +110,7 @@ class PathDirectory : public HeldDirectory {
 
 // After a search that found nothing: a root has no entries of its own, so an empty one finds none.
 bool IsEmptyRoot(Platform& platform, const Text& path) {
-  FileStatus status;
-  return path.size() == 3 && path[1] == u':' && platform.GetFileStatus(path, status);
+  return path.size() == 3 && path[1] == u':' && platform.CanBeListed(path);
 }
 
 }  // namespace

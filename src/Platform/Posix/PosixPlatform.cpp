@@ -145,6 +145,12 @@ FindHandle PosixPlatform::FindFirstFile(const Text& pattern, FindData& data) {
   return finds_.Begin(EntrySearch(std::move(listing), level, dots), data);
 }
 
+bool PosixPlatform::CanBeListed(const Text& directory) {
+  bool root = false;
+  return names_.List(directory.substr(0, directory.size() > 3 ? directory.size() - 1 : 3), root) !=
+         nullptr;
+}
+
 FindHandle PosixPlatform::FindSingle(const Text& name, FindData& data) {
   const int error = OnPlace(name, [&](const Place& place) {
     // A root and a name that ends in a backslash are no entries of a directory.

@@ -44,6 +44,7 @@ class PosixPlatform : public Platform {
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool FindNextFile(FindHandle handle, FindData& data) override;
   void FindClose(FindHandle handle) override;
+  bool CanBeListed(const Text& directory) override;
   std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override;
   bool GetFileStatus(const Text& name, FileStatus& status) override;
   FileHandle OpenRead(const Text& name) override;

@@ -6,6 +6,7 @@
 #include "Platform/SystemTexts.h"
 #include "Platform/Win32/Errors.h"
 #include "Platform/Win32/FileReads.h"
+#include "Platform/Win32/FirstEntry.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Redirection.h"
 #include "Platform/Win32/Unfinished.h"
@@ -227,6 +228,12 @@ std::size_t FileSource::ReadAt(std::uint64_t offset, char* buffer, std::size_t s
 }
 
 // --- Directory search -----------------------------------------------------------------------
+
+bool Win32Platform::CanBeListed(const Text& directory) {
+  const Text name = VerbatimName(directory);
+  const Unredirected unredirected;
+  return !name.empty() && trovex::CanBeListed(Wide(name + u'*'));
+}
 
 FindHandle Win32Platform::FindFirstFile(const Text& pattern, FindData& data) {
   data = {};

@@ -15,4 +15,7 @@ using FindFirstCall = decltype(&FindFirstFileExW);
 HANDLE FirstEntry(const wchar_t* pattern, WIN32_FIND_DATAW& entry,
                   FindFirstCall find = &FindFirstFileExW);
 
+// Whether that search has a directory to look through, be there entries in it or not.
+bool CanBeListed(const wchar_t* pattern, FindFirstCall find = &FindFirstFileExW);
+
 }  // namespace trovex

@@ -20,6 +20,7 @@ class Win32Platform : public Platform {
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool FindNextFile(FindHandle handle, FindData& data) override;
   void FindClose(FindHandle handle) override;
+  bool CanBeListed(const Text& directory) override;
   bool GetFileStatus(const Text& name, FileStatus& status) override;
   FileHandle OpenRead(const Text& name) override;
   FileHandle OpenWrite(const Text& name) override;

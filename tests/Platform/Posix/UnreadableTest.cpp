@@ -1,6 +1,7 @@
 // Files and directories that the host refuses, or whose reading fails.
 #include <filesystem>
 
+#include "Platform/ForwardingPlatform.h"
 #include "Platform/HeldDirectory.h"
 #include "Platform/Posix/PosixFixture.h"
 #include "support/Posix/OrdinaryUser.h"
@@ -51,6 +52,18 @@ TEST_F(Unreadable, ADirectoryThatIsRefusedIsNotHeld) {
   ASSERT_TRUE(held->Entries()->Find(u"JEUX", entry));
   EXPECT_FALSE(held->OpenDirectory(entry));
   EXPECT_FALSE(platform_.OpenDirectory(u"D:\\JEUX"));
+}
+
+TEST_F(Unreadable, ARootThatIsRefusedIsNotAnEmptyOne) {
+  Lock("");
+  {
+    const OrdinaryUser user;
+    ForwardingPlatform by_name(platform_);
+    EXPECT_FALSE(platform_.OpenDirectory(u"D:\\"));
+    EXPECT_FALSE(by_name.OpenDirectory(u"D:\\"));
+    EXPECT_FALSE(platform_.CanBeListed(u"D:\\"));
+  }
+  std::filesystem::permissions(disc_.HostPath(""), std::filesystem::perms::owner_all);
 }
 
 }  // namespace

@@ -45,5 +45,23 @@ TEST(FirstEntryTest, AnyOtherRefusalIsNotTriedAgain) {
   EXPECT_EQ(calls, 1);
 }
 
+HANDLE WINAPI FindInEmptyRoot(LPCWSTR, FINDEX_INFO_LEVELS, LPVOID, FINDEX_SEARCH_OPS, LPVOID,
+                              DWORD) {
+  SetLastError(ERROR_FILE_NOT_FOUND);
+  return INVALID_HANDLE_VALUE;
+}
+
+HANDLE WINAPI FindInRefusedRoot(LPCWSTR, FINDEX_INFO_LEVELS, LPVOID, FINDEX_SEARCH_OPS, LPVOID,
+                                DWORD) {
+  SetLastError(ERROR_ACCESS_DENIED);
+  return INVALID_HANDLE_VALUE;
+}
+
+TEST(FirstEntryTest, ARootThatCannotBeReadIsNotAnEmptyOne) {
+  EXPECT_TRUE(CanBeListed(L"D:\\*", &FindInEmptyRoot));
+  EXPECT_FALSE(CanBeListed(L"D:\\*", &FindInRefusedRoot));
+  EXPECT_FALSE(CanBeListed(L"D:\\*", &FindOfUnreadyDrive));
+}
+
 }  // namespace
 }  // namespace trovex

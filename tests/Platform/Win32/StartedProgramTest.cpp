@@ -89,14 +89,5 @@ TEST_F(StartedProgramTest, WhatDoesNotExistRaises) {
             ErrorNumber::kFileNotFound);
 }
 
-TEST_F(StartedProgramTest, NoLibraryIsTakenFromTheCurrentDirectory) {
-  Text system;
-  platform_.GetSystemDirectory(system, 255);
-  ASSERT_TRUE(CopyFileW(Wide(system + u"\\version.dll"), L"D:\\trvxessai.dll", TRUE));
-  const HMODULE library = LoadLibraryW(L"trvxessai.dll");
-  EXPECT_EQ(library, nullptr);
-  if (library != nullptr) FreeLibrary(library);
-}
-
 }  // namespace
 }  // namespace trovex::test

@@ -235,5 +235,14 @@ TEST_F(SearchContract, WhatOthersChangeIsSeen) {
   EXPECT_THAT(FindAll(u"D:\\*"), IsEmpty());
 }
 
+TEST_F(SearchContract, ADirectoryCanBeListedThoughEmptyButNotAFileOrNothing) {
+  EXPECT_TRUE(platform_.CanBeListed(u"D:\\"));
+  disc_.Directory("JEUX");
+  disc_.File("A.TXT");
+  EXPECT_TRUE(platform_.CanBeListed(u"D:\\JEUX\\"));
+  EXPECT_FALSE(platform_.CanBeListed(u"D:\\A.TXT\\"));
+  EXPECT_FALSE(platform_.CanBeListed(u"D:\\RIEN\\"));
+}
+
 }  // namespace
 }  // namespace trovex::test
