@@ -230,9 +230,11 @@ std::size_t FileSource::ReadAt(std::uint64_t offset, char* buffer, std::size_t s
 // --- Directory search -----------------------------------------------------------------------
 
 bool Win32Platform::CanBeListed(const Text& directory) {
-  const Text name = VerbatimName(directory);
+  // Wine says of a missing directory what Windows says of an empty one.
+  FileStatus status;
+  if (!GetFileStatus(directory, status) || !(status.attributes & kAttributeDirectory)) return false;
   const Unredirected unredirected;
-  return !name.empty() && trovex::CanBeListed(Wide(name + u'*'));
+  return trovex::CanBeListed(Wide(VerbatimName(directory) + u'*'));
 }
 
 FindHandle Win32Platform::FindFirstFile(const Text& pattern, FindData& data) {
