@@ -4,7 +4,7 @@
 
 #include "Image/OpenDisc.h"
 #include "support/IsoBuilder.h"
-#include "support/StoredSource.h"
+#include "support/MemorySource.h"
 #include "support/Target.h"
 
 namespace trovex::fuzz {
@@ -62,7 +62,7 @@ Seen Walk(image::Disc& disc, std::size_t sectors) {
 }
 
 Seen See(const std::string& bytes) {
-  auto source = std::make_shared<StoredSource>(bytes);
+  auto source = std::make_shared<test::MemorySource>(bytes);
   const image::Opened opened = image::OpenImage(source, bytes.size());
   Promise((opened.disc != nullptr) == (opened.problem == image::Problem::kNone),
           "there is a disc or a problem");

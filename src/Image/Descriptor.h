@@ -13,6 +13,8 @@ namespace trovex::image {
 
 // The sector of the first descriptor, counted from the beginning of its session.
 inline constexpr std::uint32_t kFirstDescriptor = 16;
+// No more follow each other.
+inline constexpr std::uint32_t kMostDescriptors = 64;
 
 inline constexpr int kPrimaryDescriptor = 1;
 inline constexpr int kSupplementaryDescriptor = 2;

@@ -33,10 +33,21 @@ std::uint64_t PlaceOf(std::uint64_t start, const Row& row, std::uint32_t index) 
   return start + std::uint64_t{index} * row.stride + row.data;
 }
 
-bool IsDescriptor(records::ByteSource& source, std::uint64_t place) {
+std::optional<int> TypeAt(records::ByteSource& source, std::uint64_t place) {
   std::array<char, kDescriptorHead> head;
-  return ReadAll(source, place, head.data(), head.size()) == head.size() &&
-         TypeOfDescriptor(head.data()) == kPrimaryDescriptor;
+  if (ReadAll(source, place, head.data(), head.size()) != head.size()) return std::nullopt;
+  return TypeOfDescriptor(head.data());
+}
+
+// How many descriptors stand before the primary one; nothing where there are none, or none such.
+std::optional<std::uint32_t> BeforePrimary(records::ByteSource& source, std::uint64_t place,
+                                           std::uint32_t stride) {
+  for (std::uint32_t i = 0; i < kMostDescriptors; ++i) {
+    const auto type = TypeAt(source, place + std::uint64_t{i} * stride);
+    if (type == kPrimaryDescriptor) return i;
+    if (!type || type == kLastDescriptor) break;
+  }
+  return std::nullopt;
 }
 
 bool IsUdf(records::ByteSource& source, std::uint64_t place) {
@@ -44,10 +55,11 @@ bool IsUdf(records::ByteSource& source, std::uint64_t place) {
          StandsAt(source, place + 1, "NSR03");
 }
 
-// A Macintosh volume bears its signature in its third block, a map of partitions in its second.
-bool IsHfs(records::ByteSource& source, std::uint64_t start) {
-  return StandsAt(source, start + 1024, "BD") || StandsAt(source, start + 1024, "H+") ||
-         StandsAt(source, start + 512, "PM");
+// A Macintosh volume bears its signature in its third block, a map of partitions in its second:
+// both lie in the first sector.
+bool IsHfs(records::ByteSource& source, std::uint64_t first) {
+  return StandsAt(source, first + 1024, "BD") || StandsAt(source, first + 1024, "H+") ||
+         StandsAt(source, first + 512, "PM");
 }
 
 bool IsAddressed(records::ByteSource& source, std::uint64_t place) {
@@ -60,10 +72,11 @@ std::optional<Probed> ProbeGap(records::ByteSource& source, std::uint64_t start,
   const std::uint32_t index = gap + kFirstDescriptor;
   for (const Row& row : kRows) {
     const std::uint64_t place = PlaceOf(start, row, index);
-    if (!IsDescriptor(source, place)) continue;
+    const auto before = BeforePrimary(source, place, row.stride);
+    if (!before) continue;
     const bool raw = row.data > kRawHeader;
     const bool addressed = raw && IsAddressed(source, place - row.data);
-    return Probed{Mark::kVolume, {start, row.stride, row.data, gap, addressed}, index};
+    return Probed{Mark::kVolume, {start, row.stride, row.data, gap, addressed}, index + *before};
   }
   return std::nullopt;
 }
@@ -81,7 +94,10 @@ Probed Probe(records::ByteSource& source, std::uint64_t start) {
   for (std::uint32_t gap = 1; gap <= kLongestGap; ++gap) {
     if (const auto probed = ProbeGap(source, start, gap)) return *probed;
   }
-  return {IsHfs(source, start) ? Mark::kHfs : Mark::kNone, {}, 0};
+  for (const Row& row : kRows) {
+    if (IsHfs(source, PlaceOf(start, row, 0))) return {Mark::kHfs, {}, 0};
+  }
+  return {};
 }
 
 }  // namespace trovex::image

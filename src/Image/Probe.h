@@ -20,7 +20,7 @@ enum class Mark {
 struct Probed {
   Mark mark = Mark::kNone;
   Layout layout;              // of a kVolume
-  std::uint32_t primary = 0;  // of a kVolume: index of the first descriptor's sector
+  std::uint32_t primary = 0;  // of a kVolume: index of the primary descriptor's sector
 };
 
 // Looks at the file from byte `start` on, where a track begins.

@@ -24,12 +24,6 @@ std::optional<Record> SelfAt(const Sectors& sectors, std::uint64_t place, Format
   return SelfIn(head, sectors.ReadAt(place, head.data(), head.size()), format);
 }
 
-bool Spend(SearchBudget& budget) {
-  if (budget.sectors == 0) return false;
-  --budget.sectors;
-  return true;
-}
-
 class RootFinder {
  public:
   RootFinder(Sectors& sectors, Track& track, std::uint32_t index, const Descriptor& descriptor,
@@ -86,7 +80,7 @@ class RootFinder {
   bool FindShift() {
     if (block_size_ != kSectorSize) return false;
     for (std::uint32_t index = index_ + 1; index < track_.Count(); ++index) {
-      if (!Spend(budget_)) return false;
+      if (!budget_.Spend()) return false;
       Head head;
       const auto self = SelfIn(head, track_.Read(index, 0, head.data(), head.size()), format_);
       if (!self || self->block != record_.block) continue;
@@ -120,7 +114,7 @@ std::optional<Root> FindRootAnywhere(const Track& track, std::uint32_t index,
                                      const Descriptor& descriptor, SearchBudget& budget) {
   if (descriptor.BlockSize() != kSectorSize) return std::nullopt;
   const Format format = descriptor.GetFormat();
-  for (std::uint32_t i = index + 1; i < track.Count() && Spend(budget); ++i) {
+  for (std::uint32_t i = index + 1; i < track.Count() && budget.Spend(); ++i) {
     Head head;
     const std::size_t held = track.Read(i, 0, head.data(), head.size());
     const auto self = SelfIn(head, held, format);

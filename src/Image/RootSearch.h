@@ -14,10 +14,19 @@ struct Root {
   std::uint32_t size = 0;  // in bytes
 };
 
-// How many more sectors may be looked at where a root is searched for: a bound for all searches of
-// one image together.
-struct SearchBudget {
-  std::uint32_t sectors = 1 << 22;  // a whole layer of a DVD goes in
+// How many more sectors may be looked at where sessions and roots are searched for: a bound for all
+// searches of one image together.
+class SearchBudget {
+ public:
+  // Takes one sector off; false where none is left.
+  bool Spend() {
+    if (sectors_ == 0) return false;
+    --sectors_;
+    return true;
+  }
+
+ private:
+  std::uint32_t sectors_ = 1 << 20;  // more than twice what a CD has
 };
 
 // `index` is the sector of the session's first descriptor in `track`, one of those of `sectors`.

@@ -17,6 +17,9 @@ constexpr std::uint32_t kLongestStride = 2448;
 // A disc has at most 99 tracks; damaged sectors may part a few more runs.
 constexpr std::size_t kMaxRuns = 256;
 
+// Sectors without an address that are looked at; a whole disc has fewer.
+constexpr std::uint32_t kMostWithout = 1 << 20;
+
 }  // namespace
 
 Track::Track(std::shared_ptr<records::ByteSource> source, std::uint64_t size, const Layout& layout)
@@ -45,9 +48,11 @@ std::optional<std::int64_t> Track::ReadAddress(std::uint32_t index) const {
 // Sectors without an address, as those of music, lie between the runs. A run is gone through in
 // growing steps, so a disc of one track costs a handful of reads.
 void Track::FindRuns() {
+  std::uint32_t without = 0;
   for (std::uint32_t index = 0; index < count_ && runs_.size() < kMaxRuns;) {
     const auto address = ReadAddress(index);
     if (!address) {
+      if (++without == kMostWithout) break;
       ++index;
       continue;
     }

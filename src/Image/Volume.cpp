@@ -9,12 +9,12 @@
 namespace trovex::image {
 namespace {
 
-constexpr std::uint32_t kMostDescriptors = 64;
 constexpr std::size_t kMostSessions = 99;
 
 // The primary descriptors of a track, the first one at `first`. Later sessions have theirs behind
 // the end of the first volume.
-std::vector<std::uint32_t> PrimariesOf(const Track& track, std::uint32_t first) {
+std::vector<std::uint32_t> PrimariesOf(const Track& track, std::uint32_t first,
+                                       SearchBudget& budget) {
   std::vector<std::uint32_t> primaries{first};
   Descriptor descriptor;
   if (!descriptor.Read(track, first)) return primaries;
@@ -23,6 +23,7 @@ std::vector<std::uint32_t> PrimariesOf(const Track& track, std::uint32_t first) 
   const std::uint64_t session = first - std::min(first, kFirstDescriptor);
   std::uint64_t index = std::max<std::uint64_t>(session + sectors, first + 1);
   for (; index < track.Count() && primaries.size() < kMostSessions; ++index) {
+    if (!budget.Spend()) break;
     std::array<char, kDescriptorHead> head;
     const auto at = static_cast<std::uint32_t>(index);
     if (track.Read(at, 0, head.data(), head.size()) != head.size()) continue;
@@ -97,7 +98,7 @@ std::optional<Volume> FindVolume(Sectors& sectors, const std::vector<std::uint32
   SearchBudget budget;
   std::vector<Track>& tracks = sectors.Tracks();
   for (std::size_t i = tracks.size(); i-- > 0;) {
-    const std::vector<std::uint32_t> found = PrimariesOf(tracks[i], primaries[i]);
+    const std::vector<std::uint32_t> found = PrimariesOf(tracks[i], primaries[i], budget);
     for (std::size_t j = found.size(); j-- > 0;) {
       const Place place = j == 0 ? Place::kFirst : Place::kLater;
       if (auto volume = VolumeAt(sectors, tracks[i], found[j], place, budget)) return volume;

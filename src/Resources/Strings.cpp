@@ -118,6 +118,7 @@ const std::unordered_map<StringId, Text>& Table() {
        u"incomplète."},
       {StringId::kImageFichierManquant, u"Il décrit un fichier qui n'existe pas à côté de lui : "},
       {StringId::kImageSansDonnees, u"Le disque n'a pas de piste de données."},
+      {StringId::kImageIncomplete, u"L'image est plus courte que son disque."},
       {StringId::kImageSansLettre, u"Il n'y a plus de lettre de lecteur libre."},
       {StringId::kDansUneImage, u"Ouverture impossible depuis une image de disque : "},
       {StringId::kRienNEstExtrait,

@@ -109,6 +109,7 @@ enum class StringId : int {
   kImageSansLettre = 713,
   kDansUneImage = 714,
   kRienNEstExtrait = 715,
+  kImageIncomplete = 716,
   kProgrammeDos = 350,
   kProgrammeOs2 = 351,
   kProgrammeWin32s = 352,

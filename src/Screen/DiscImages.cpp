@@ -68,6 +68,7 @@ void OuvreImage(MainForm& form, const Text& sFichier) {
   discs->Mount(letter, opened.disc);
   form.ListeDrive.Update();
   form.ListeDrive.SetDrive(Text{letter});
+  if (opened.disc->GetVolume().cut_short) MainMsg(ResString(StringId::kImageIncomplete));
 }
 
 void Form_DropFiles(MainForm& form, const std::vector<Text>& files) {

@@ -1,4 +1,5 @@
 // What is no disc, or one that leads astray: it ends, it tells, and it never takes long.
+#include <algorithm>
 #include <random>
 
 #include "Image/ImageTest.h"
@@ -48,6 +49,10 @@ TEST_F(BadDiscs, DiscsOfOtherKindsAreNamed) {
   EXPECT_EQ(Open(RawImage(udf, {2352, 1})).problem, Problem::kUdf);
   std::string mac(300 * kIsoSector, '\0');
   mac.replace(1024, 2, "BD");
+  EXPECT_EQ(Open(mac).problem, Problem::kHfs);
+  EXPECT_EQ(Open(RawImage(mac, {2352, 1})).problem, Problem::kHfs);
+  mac.replace(1024, 2, "xx");
+  mac.replace(512, 2, "PM");
   EXPECT_EQ(Open(mac).problem, Problem::kHfs);
   EXPECT_EQ(Open("MComprHD" + std::string(100000, '\1')).problem, Problem::kCompressed);
 }
@@ -175,6 +180,32 @@ TEST_F(BadDiscs, WhatLiesBehindTheEndIsListedAndUnread) {
   EXPECT_EQ(platform_.GetFileProperties(u"E:\\SETUP.EXE", status, record), Reading::kStatus);
   EXPECT_EQ(status.length, 5003);
   EXPECT_THAT(Names(u"E:\\JEUX"), ElementsAre(u"(nothing)"));
+}
+
+// Zeros without end behind what is given.
+class EndlessSource : public records::ByteSource {
+ public:
+  explicit EndlessSource(std::string bytes) : bytes_(std::move(bytes)) {}
+  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override {
+    ++reads;
+    std::fill_n(buffer, size, '\0');
+    if (offset < bytes_.size()) bytes_.copy(buffer, size, static_cast<std::size_t>(offset));
+    return size;
+  }
+  int reads = 0;
+
+ private:
+  std::string bytes_;
+};
+
+TEST_F(BadDiscs, AnImageOfATebibyteIsNotGoneThroughToItsEnd) {
+  const std::string iso = SmallDisc().Build(IsoFormat::kPlain).bytes;
+  for (const std::string& bytes : {iso, RawImage(iso, {2352, 1})}) {
+    const auto source = std::make_shared<EndlessSource>(bytes);
+    const auto opened = image::OpenImage(source, std::uint64_t{1} << 40);
+    EXPECT_EQ(opened.problem, Problem::kNone);
+    EXPECT_LT(source->reads, 2 * (1 << 20) + 10000);
+  }
 }
 
 // --- Anything at all ----------------------------------------------------------------------------

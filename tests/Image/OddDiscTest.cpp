@@ -77,6 +77,17 @@ TEST_F(OddDiscs, ARootWhoseRecordOfItselfHoldsWhatOtherSystemsAdd) {
   ExpectSmallDisc();
 }
 
+TEST_F(OddDiscs, AnotherDescriptorBeforeThePrimaryOne) {
+  const BuiltIso iso = SmallDisc().Build(IsoFormat::kJoliet);
+  for (const unsigned stride : {2048u, 2352u}) {
+    std::string bytes = iso.bytes;
+    bytes.replace(kPrimary + kIsoSector, 3 * kIsoSector, bytes, kPrimary, 3 * kIsoSector);
+    bytes.replace(kPrimary, kIsoSector, std::string("\0CD001\1", 7) + std::string(2041, '\0'));
+    Insert(RawImage(bytes, {stride, 1}));
+    ExpectSmallDisc();
+  }
+}
+
 TEST_F(OddDiscs, ADirectoryWithoutReadableLongNamesShowsPlainOnes) {
   BuiltIso iso = SmallDisc().Build(IsoFormat::kJoliet);
   iso.Put(kPrimary + kIsoSector + 156 + kRecordBlock, 9);

@@ -76,6 +76,19 @@ TEST_F(DiscImagesTest, WhatIsNoImageGetsABox) {
   EXPECT_TRUE(LastBox().ends_with(u"à côté de lui : absent.bin"));
 }
 
+TEST_F(DiscImagesTest, AnImageShorterThanItsDiscSaysSoInTheStatusLine) {
+  IsoBuilder iso;
+  iso.File("X.EXE", DosExecutable());
+  BuiltIso built = iso.Build(IsoFormat::kPlain);
+  Drop({u"D:\\disque.iso"});
+  EXPECT_EQ(Help(), u"");
+  built.Put(kPrimarySpace, 100000);
+  disc.File("court.iso", built.bytes);
+  Drop({u"D:\\court.iso"});
+  EXPECT_EQ(Help(), u"L'image est plus courte que son disque.");
+  EXPECT_EQ(ChosenDrive(), u"f: [DISQUE]");
+}
+
 TEST_F(DiscImagesTest, WithoutAFreeLetterABoxSaysSo) {
   for (char16_t letter = u'E'; letter <= u'Z'; ++letter) machine.drives.insert(Text{letter});
   view.Answer(BoxAnswer::kOk);
