@@ -37,7 +37,8 @@ class HeldDirectory {
 
   // May be kept longer than the directory itself.
   virtual const std::shared_ptr<const DirectoryEntries>& Entries() const = 0;
-  // False where the reading of the directory broke off: more may stand in it than its entries say.
+  // False where the reading of the directory broke off, or an entry could not be looked at: more
+  // may stand in it than its entries say.
   virtual bool IsWhole() const = 0;
 
   // A subdirectory; null as Platform::OpenDirectory.

@@ -83,6 +83,10 @@ std::uint32_t SystemCodeOf(int error) {
   }
 }
 
+bool IsMissing(int error) {
+  return error == ENOENT || error == ENOTDIR || error == ELOOP;
+}
+
 RuntimeError ErrorOf(int error) {
   return RuntimeError::OfSystem(ErrorNumberOf(error), SystemCodeOf(error));
 }

@@ -14,6 +14,10 @@ ErrorNumber ErrorNumberOf(int error);
 // be about what happened.
 std::uint32_t SystemCodeOf(int error);
 
+// True for the errors that say that there is nothing by a name, rather than that it cannot be
+// reached.
+bool IsMissing(int error);
+
 // Both at once.
 RuntimeError ErrorOf(int error);
 

@@ -10,6 +10,7 @@
 
 #include "Platform/Encoding.h"
 #include "Platform/EntryNames.h"
+#include "Platform/Posix/Errors.h"
 #include "Platform/Posix/HostCalls.h"
 
 namespace trovex::posix {
@@ -57,37 +58,44 @@ bool IsDots(const char* name) {
   return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
-// Of a link, what it leads to counts; a link to anything but a regular file is not for us.
-EntryKind KindOfTarget(int directory, const char* name) {
-  struct stat status;
-  const bool found = fstatat(directory, name, &status, 0) == 0;
-  return found && S_ISREG(status.st_mode) ? EntryKind::kFile : EntryKind::kOther;
-}
-
 EntryKind KindOf(mode_t mode) {
   if (S_ISREG(mode)) return EntryKind::kFile;
   return S_ISDIR(mode) ? EntryKind::kDirectory : EntryKind::kOther;
 }
 
-// Most file systems tell the kind along with the name, which saves a call an entry.
-EntryKind KindOf(int directory, const dirent64& entry) {
+// Asks for what an entry is; false, and `known` too, where it cannot be told.
+bool Ask(int directory, const char* name, int flags, struct stat& status, bool& known) {
+  if (fstatat(directory, name, &status, flags) == 0) return true;
+  known = known && IsMissing(errno);
+  return false;
+}
+
+// Of a link, what it leads to counts; a link to anything but a regular file is not for us.
+EntryKind KindOfTarget(int directory, const char* name, bool& known) {
+  struct stat status;
+  const bool found = Ask(directory, name, 0, status, known);
+  return found && S_ISREG(status.st_mode) ? EntryKind::kFile : EntryKind::kOther;
+}
+
+// Most file systems tell the kind along with the name, which saves a call an entry. `known` becomes
+// false where an entry may be anything.
+EntryKind KindOf(int directory, const dirent64& entry, bool& known) {
   switch (entry.d_type) {
     case DT_REG:
       return EntryKind::kFile;
     case DT_DIR:
       return EntryKind::kDirectory;
     case DT_LNK:
-      return KindOfTarget(directory, entry.d_name);
+      return KindOfTarget(directory, entry.d_name, known);
     case DT_UNKNOWN:
       break;
     default:
       return EntryKind::kOther;
   }
   struct stat status;
-  if (fstatat(directory, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-    return EntryKind::kOther;
-  }
-  return S_ISLNK(status.st_mode) ? KindOfTarget(directory, entry.d_name) : KindOf(status.st_mode);
+  if (!Ask(directory, entry.d_name, AT_SYMLINK_NOFOLLOW, status, known)) return EntryKind::kOther;
+  if (!S_ISLNK(status.st_mode)) return KindOf(status.st_mode);
+  return KindOfTarget(directory, entry.d_name, known);
 }
 
 bool IsPlain(std::string_view name) {
@@ -154,12 +162,15 @@ std::shared_ptr<const Listing> Listing::Read(const FileDescriptor& directory) {
   auto listing = std::make_shared<Listing>();
   listing->Reserve();
   EntryReader entries(directory.Get());
+  bool known = true;
   while (const dirent64* entry = entries.Next()) {
-    if (!IsDots(entry->d_name)) listing->Add(entry->d_name, KindOf(directory.Get(), *entry));
+    if (IsDots(entry->d_name)) continue;
+    listing->Add(entry->d_name, KindOf(directory.Get(), *entry, known));
   }
   // A directory that breaks off half-way, as on a scratched disc, gives what was readable.
-  listing->whole_ = errno == 0;
-  if (!listing->whole_ && listing->records_.empty()) return nullptr;
+  const bool ended = errno == 0;
+  if (!ended && listing->records_.empty()) return nullptr;
+  listing->whole_ = ended && known;
   listing->Arrange();
   return listing;
 }

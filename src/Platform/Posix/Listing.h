@@ -36,7 +36,8 @@ class Listing : public DirectoryEntries {
   // Reads a directory that is no link. Null with the reason in errno.
   static std::shared_ptr<const Listing> Read(const std::string& host);
 
-  // False where the reading broke off before the end.
+  // False where the reading broke off before the end, and where an entry or what a link leads to
+  // could not be looked at.
   bool IsWhole() const { return whole_; }
   // Entries of every kind; those of kind kOther come with the others.
   std::size_t Count() const { return records_.size(); }

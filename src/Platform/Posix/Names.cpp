@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "Platform/Posix/Errors.h"
 #include "Platform/Posix/HostCalls.h"
 
 namespace trovex::posix {
@@ -203,7 +204,7 @@ Place Names::PlaceOf(const KnownDirectory& directory, const DirectoryEntry& entr
 
 std::shared_ptr<const Listing> Names::Read(KnownDirectory& directory) {
   auto listing = Listing::Read(directory.host);
-  const bool gone = !listing && (errno == ENOENT || errno == ENOTDIR || errno == ELOOP);
+  const bool gone = !listing && IsMissing(errno);
   if (gone && directory.name.size() > kRootLength) hint_failed_ = true;
   hints_.SetListing(directory, listing);
   return listing;

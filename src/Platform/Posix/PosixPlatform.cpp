@@ -32,9 +32,10 @@ namespace {
 constexpr std::size_t kCopyBuffer = 65536;
 constexpr const char16_t* kSystemLibrary = u"\\SHELL32.DLL";
 
-// True for the errors that a place from memory gives once the disk has changed.
-bool IsStale(int error) {
-  return error == ENOENT || error == ENOTDIR || error == ELOOP;
+// A directory by the listing of the one above, which a root does not have. What cannot be reached
+// is one all the same: below a directory that may be listed but not entered, on a damaged disc.
+bool IsListedDirectory(const Place& place) {
+  return place.kind == EntryKind::kDirectory && !place.name.empty();
 }
 
 // Why a place cannot be used as a file; 0 if it can.
@@ -119,7 +120,8 @@ int PosixPlatform::OnPlace(const Text& name, Use use) {
     const std::optional<Place> place = names_.Find(name);
     const int error = place ? use(*place) : errno;
     if (error == 0) return 0;
-    if (!place || !place->hinted || !IsStale(error)) return error;
+    // A place from memory is missing once the disk has changed.
+    if (!place || !place->hinted || !IsMissing(error)) return error;
     names_.Forget();
   }
 }
@@ -195,8 +197,10 @@ bool PosixPlatform::GetFileStatus(const Text& name, FileStatus& status) {
   const int error = OnPlace(name, [&](const Place& place) {
     if (place.kind == EntryKind::kMissing || place.kind == EntryKind::kOther) return ENOENT;
     struct stat host;
-    if (!StatHost(place.host, host)) return errno;
-    return StatusOf(host, place.name, status) ? 0 : ENOENT;
+    if (StatHost(place.host, host)) return StatusOf(host, place.name, status) ? 0 : ENOENT;
+    if (IsMissing(errno) || !IsListedDirectory(place)) return errno;
+    status = {AttributesOf(EntryKind::kDirectory, place.name), 0, {}};
+    return 0;
   });
   return error == 0;
 }

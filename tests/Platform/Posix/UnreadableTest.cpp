@@ -3,6 +3,7 @@
 
 #include "Platform/ForwardingPlatform.h"
 #include "Platform/HeldDirectory.h"
+#include "Platform/Posix/Listing.h"
 #include "Platform/Posix/PosixFixture.h"
 #include "support/Posix/OrdinaryUser.h"
 
@@ -64,6 +65,52 @@ TEST_F(Unreadable, ARootThatIsRefusedIsNotAnEmptyOne) {
     EXPECT_FALSE(platform_.CanBeListed(u"D:\\"));
   }
   std::filesystem::permissions(disc_.HostPath(""), std::filesystem::perms::owner_all);
+}
+
+// Its parent can be listed, but not entered.
+TEST_F(Unreadable, ADirectoryThatCannotBeReachedIsOneByItsParentsListing) {
+  disc_.File("JEUX/SOUS/A.EXE");
+  disc_.File("JEUX/B.EXE");
+  std::filesystem::permissions(disc_.HostPath("JEUX"), std::filesystem::perms::owner_read);
+  const OrdinaryUser user;
+  EXPECT_FALSE(platform_.OpenDirectory(u"D:\\JEUX\\SOUS"));
+  ASSERT_TRUE(platform_.GetFileStatus(u"D:\\JEUX\\SOUS", status_));
+  EXPECT_EQ(status_.attributes, kAttributeDirectory);
+  EXPECT_EQ(status_.length, 0);
+  EXPECT_FALSE(platform_.GetFileStatus(u"D:\\JEUX\\B.EXE", status_));
+  EXPECT_FALSE(platform_.GetFileStatus(u"D:\\JEUX\\RIEN", status_));
+}
+
+TEST_F(Unreadable, ADirectoryThatHasGoneIsNone) {
+  disc_.File("JEUX/SOUS/A.EXE");
+  ASSERT_TRUE(platform_.GetFileStatus(u"D:\\JEUX\\SOUS", status_));
+  disc_.Remove("JEUX/SOUS");
+  EXPECT_FALSE(platform_.GetFileStatus(u"D:\\JEUX\\SOUS", status_));
+}
+
+// --- Entries of an unknown kind ---
+
+bool IsWhole(const TestDisc& disc, const char* directory) {
+  return posix::Listing::Read(disc.HostPath(directory).string())->IsWhole();
+}
+
+TEST_F(Unreadable, ALinkWhoseTargetIsRefusedLeavesTheListingIncomplete) {
+  disc_.File("SECRET/A.EXE");
+  disc_.Directory("JEUX");
+  std::filesystem::create_symlink("../SECRET/A.EXE", disc_.HostPath("JEUX/LIEN.EXE"));
+  EXPECT_TRUE(IsWhole(disc_, "JEUX"));
+  Lock("SECRET");
+  const OrdinaryUser user;
+  EXPECT_FALSE(IsWhole(disc_, "JEUX"));
+  EXPECT_FALSE(platform_.OpenDirectory(u"D:\\JEUX")->IsWhole());
+}
+
+TEST_F(Unreadable, ALinkThatLeadsNowhereLeavesTheListingWhole) {
+  disc_.File("A.EXE");
+  std::filesystem::create_symlink("RIEN", disc_.HostPath("PERDU"));
+  std::filesystem::create_symlink("CERCLE", disc_.HostPath("CERCLE"));
+  std::filesystem::create_symlink("A.EXE/RIEN", disc_.HostPath("FAUX"));
+  EXPECT_TRUE(IsWhole(disc_, ""));
 }
 
 }  // namespace
