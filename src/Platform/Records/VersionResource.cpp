@@ -15,10 +15,9 @@ std::string ReadVersionRecord(ByteSource& source) {
       OnResources(file, [](const auto& resources) { return resources.First(kVersionType); });
   std::string record;
   if (!place || place->size > kMaxVersionResource) return record;
-  file.Copy(place->offset, static_cast<std::size_t>(place->size), record);
-  const std::size_t length = ByteView(record).U16(0);
-  if (length < kSmallestRecord || length > record.size()) return {};
-  record.resize(length);
+  const auto first = file.At(place->offset, 2);
+  const std::size_t length = first ? first->U16(0) : 0;
+  if (length >= kSmallestRecord && length <= place->size) file.Copy(place->offset, length, record);
   return record;
 }
 
