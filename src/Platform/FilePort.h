@@ -68,11 +68,11 @@ class FilePort {
   // Begins a search. The last level of `pattern` may hold * and ?; no 8.3 aliases are matched, and
   // a pattern that ends in ".*" also matches a name without a point. Directories below a root give
   // "." and ".." first. Gives kInvalid, and leaves `data` empty, where the directory is missing or
-  // unreadable or nothing matches. Only files, links to files and directories are found: no FIFO,
-  // socket or device, and no link to a directory. A level without * and ? finds that one entry.
-  // Order: Posix ascending upper-cased names, Win32 the system's. Every valid handle is closed by
-  // FindClose, but one whose search has reached its end holds nothing any more, closed or not; a
-  // second call of FindClose and one on kInvalid do no harm.
+  // unreadable or nothing matches; raises as FindNextFile. Only files, links to files and
+  // directories are found: no FIFO, socket or device, and no link to a directory. A level without *
+  // and ? finds that one entry. Order: Posix ascending upper-cased names, Win32 the system's. Every
+  // valid handle is closed by FindClose, but one whose search has reached its end holds nothing any
+  // more, closed or not; a second call of FindClose and one on kInvalid do no harm.
   virtual FindHandle FindFirstFile(const Text& pattern, FindData& data) = 0;
   // The next entry; false, and `data` untouched, at the end or on kInvalid. Raises kDeviceIo where
   // the search breaks off before its end.

@@ -56,16 +56,38 @@ class FoundEntries : public DirectoryEntries {
   std::vector<std::size_t> sorted_;
 };
 
+// Closes a search, however it ends.
+class Closing {
+ public:
+  Closing(Platform& platform, FindHandle search) : platform_(platform), search_(search) {}
+  ~Closing() { platform_.FindClose(search_); }
+  Closing(const Closing&) = delete;
+  Closing& operator=(const Closing&) = delete;
+
+ private:
+  Platform& platform_;
+  FindHandle search_;
+};
+
 class PathDirectory : public HeldDirectory {
  public:
-  // `directory` with its final backslash; `search` has found `first`, or is kInvalid where there is
-  // nothing to find.
-  PathDirectory(Platform& platform, Text directory, FindHandle search, FindData& first)
-      : platform_(platform), directory_(std::move(directory)) {
+  // `directory` with its final backslash; nothing is read yet.
+  PathDirectory(Platform& platform, Text directory)
+      : platform_(platform), directory_(std::move(directory)) {}
+
+  // False where it is missing or unreadable. A search that breaks off, as on a scratched disc,
+  // gives what was readable.
+  bool Read() {
     auto entries = std::make_shared<FoundEntries>();
-    if (search != FindHandle::kInvalid) TakeAll(search, first, *entries);
+    bool there = true;
+    try {
+      there = TakeAll(*entries);
+    } catch (const RuntimeError&) {
+      whole_ = false;
+    }
     entries->Sort();
     entries_ = std::move(entries);
+    return there;
   }
 
   const std::shared_ptr<const DirectoryEntries>& Entries() const override { return entries_; }
@@ -89,15 +111,21 @@ class PathDirectory : public HeldDirectory {
   }
 
  private:
-  // A search that breaks off, as on a scratched disc, gives what was readable.
-  void TakeAll(FindHandle search, FindData& data, FoundEntries& entries) {
-    try {
-      do {
-        if (data.name != u"." && data.name != u"..") entries.Add(data);
-      } while (platform_.FindNextFile(search, data));
-    } catch (const RuntimeError&) {
-      whole_ = false;
-    }
+  bool TakeAll(FoundEntries& entries) {
+    FindData data;
+    const FindHandle search = platform_.FindFirstFile(directory_ + u"*.*", data);
+    if (search == FindHandle::kInvalid) return IsEmptyRoot();
+    const Closing closing(platform_, search);
+    do {
+      if (data.name != u"." && data.name != u"..") entries.Add(data);
+    } while (platform_.FindNextFile(search, data));
+    return true;
+  }
+
+  // After a search that found nothing: a root has no entries of its own, so an empty one finds
+  // none.
+  bool IsEmptyRoot() {
+    return directory_.size() == 3 && directory_[1] == u':' && platform_.CanBeListed(directory_);
   }
 
   Text NameOf(const ListedEntry& entry) const { return directory_ + Text(entry.name); }
@@ -108,23 +136,14 @@ class PathDirectory : public HeldDirectory {
   std::shared_ptr<const DirectoryEntries> entries_;
 };
 
-// After a search that found nothing: a root has no entries of its own, so an empty one finds none.
-bool IsEmptyRoot(Platform& platform, const Text& path) {
-  return path.size() == 3 && path[1] == u':' && platform.CanBeListed(path);
-}
-
 }  // namespace
 
 std::shared_ptr<HeldDirectory> Platform::OpenDirectory(const Text& directory) {
   if (directory.empty()) return nullptr;  // a search would look at the root
   Text path = directory;
   if (!path.ends_with(u'\\')) path += u'\\';
-  FindData data;
-  const FindHandle search = FindFirstFile(path + u"*.*", data);
-  if (search == FindHandle::kInvalid && !IsEmptyRoot(*this, path)) return nullptr;
-  auto held = std::make_shared<PathDirectory>(*this, std::move(path), search, data);
-  FindClose(search);
-  return held;
+  auto held = std::make_shared<PathDirectory>(*this, std::move(path));
+  return held->Read() ? held : nullptr;
 }
 
 }  // namespace trovex

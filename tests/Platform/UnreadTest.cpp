@@ -78,6 +78,28 @@ TEST(HeldDirectory, ASearchThatBreaksOffGivesWhatWasReadAndSaysSo) {
   EXPECT_TRUE(scratched.OpenDirectory(u"D:\\")->IsWhole());
 }
 
+// As where the only entries that could be read are none for the program.
+TEST(HeldDirectory, ASearchThatBreaksOffAtItsBeginningIsHeldWithoutEntriesAndSaysSo) {
+  class Broken : public ForwardingPlatform {
+   public:
+    using ForwardingPlatform::ForwardingPlatform;
+    FindHandle FindFirstFile(const Text&, FindData&) override {
+      throw RuntimeError(ErrorNumber::kDeviceIo);
+    }
+  };
+  TestDisc disc;
+  disc.File("JEUX/A.TXT");
+  Broken broken(disc.GetPlatform());
+  for (const TextView directory : {u"D:\\", u"D:\\JEUX"}) {
+    const auto held = broken.OpenDirectory(Text(directory));
+    ASSERT_TRUE(held);
+    EXPECT_FALSE(held->IsWhole());
+    std::size_t place = 0;
+    ListedEntry entry;
+    EXPECT_FALSE(held->Entries()->Next(place, entry));
+  }
+}
+
 TEST(HeldDirectory, AFileThatCannotBeReadHasItsStatusAlone) {
   class Locked : public ForwardingPlatform {
    public:
