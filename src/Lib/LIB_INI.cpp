@@ -38,20 +38,6 @@ std::string ReadBytes(FileHandle file) {
   return bytes;
 }
 
-// Raises what the platform raises.
-std::string BytesOf(const FileInHand& oFichier) {
-  const FileHandle file = oFichier.OpenRead();
-  try {
-    std::string bytes = ReadBytes(file);
-    CurrentPlatform().Close(file);
-    return bytes;
-  } catch (const RuntimeError&) {
-    oFichier.NoteUnread();
-    CurrentPlatform().Close(file);
-    throw;
-  }
-}
-
 bool OnCdRom(const Text& sFichier) {
   return iTypeLecteur(sFichier.substr(0, 2)) == DriveType::kCdRom;
 }
@@ -80,6 +66,19 @@ void Put(const Text& sRoutine, const Text& sSection, const Text& sCle, const Tex
 Text sFichierIni;
 Text sDernierFichierIni;
 
+std::string sOctetsIni(const FileInHand& oFichier) {
+  const FileHandle file = oFichier.OpenRead();
+  try {
+    std::string bytes = ReadBytes(file);
+    CurrentPlatform().Close(file);
+    return bytes;
+  } catch (const RuntimeError&) {
+    oFichier.NoteUnread();
+    CurrentPlatform().Close(file);
+    throw;
+  }
+}
+
 Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const Text& sFichier) {
   try {
     if (sFichier != sDernierFichierIni && !bFichierExiste(sFichier)) return sDefaut;
@@ -101,7 +100,7 @@ Text IniEnMain::sLitIni(const Text& sSection, const Text& sCle, const Text& sDef
   try {
     if (sFichier != sDernierFichierIni && !file_.Exists()) return sDefaut;
     sDernierFichierIni = sFichier;
-    if (!bytes_) bytes_ = BytesOf(file_);
+    if (!bytes_) bytes_ = sOctetsIni(file_);
     if (IsGros(*bytes_)) return sLitIniGrosFichier(sSection, sCle, sDefaut, sFichier);
     Text buffer;
     const std::uint32_t n =

@@ -18,6 +18,10 @@ extern Text sFichierIni;
 // The file named in the last read: reading it again does not test its existence again.
 extern Text sDernierFichierIni;
 
+// The file's bytes, or enough of them to be a large one. Raises as the platform's OpenRead and
+// Read.
+std::string sOctetsIni(const FileInHand& oFichier);
+
 // The value, trimmed of blanks on the profile path; the default where file, section, key or value
 // is missing. Every error counts as a missing key.
 Text sLitIni(const Text& sSection, const Text& sCle, const Text& sDefaut, const Text& sFichier);

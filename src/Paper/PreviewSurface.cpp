@@ -94,12 +94,13 @@ void PreviewSurface::PutPart(double x, TextView part) {
 }
 
 // What a tab leads to stands at the same place in each line, however wide the letters before it
-// are. What has no room there goes to the next line.
+// are. What has no room there goes to the next line, unless it is the first to stand on this one.
 void PreviewSurface::PutTabbedLine(TextView line) {
   const FontRuler& ruler = Ruler();
   const double stop = ruler.Width(kTabWidth);
   Advance(ruler.LineHeight());
   double x = x_;
+  bool printed = false;  // a tab at the start indents, however long what follows is
   const auto next_line = [&] {
     y_ += ruler.LineHeight();
     Advance(ruler.LineHeight());
@@ -108,7 +109,10 @@ void PreviewSurface::PutTabbedLine(TextView line) {
   for (;;) {
     const std::size_t tab = line.find(u'\t');
     const Text field = PrintableText(line.substr(0, tab));
-    if (x > x_ && x + ruler.Width(Trimmed(field)) > PageWidth()) next_line();
+    const double width = ruler.Width(Trimmed(field));
+    const bool narrow = PageWidth() - x < stop;
+    if (width > 0 && x + width > PageWidth() && (printed || narrow)) next_line();
+    printed = printed || width > 0;
     const std::vector<TextView> parts = ruler.Wrap(field, std::max(PageWidth() - x, 0.0));
     for (std::size_t i = 0; i < parts.size(); ++i) {
       if (i > 0) next_line();

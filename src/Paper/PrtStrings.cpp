@@ -153,6 +153,7 @@ void PrtPreview::PutItemsStringCmXY(const Text& a, const Text& b, double x, OptD
                                     OptSize fntSize, const OptText& fntName, OptColour laColor) {
   // Asking where the page stands may begin the next one: only where it is wanted.
   const double y = Y ? *Y : GetCurrentCmY();
+  SetCurrentCmXY(x, y);
   const FontScope font(*this, fntSize, fntName, laColor);
   double xSuite = 0;
   if (!a.empty()) {

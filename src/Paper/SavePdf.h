@@ -5,8 +5,8 @@
 
 namespace trovex {
 
-// Writes the file, replacing it. A failure is told by the error box, leaves no file behind and
-// gives false.
+// Writes the file, replacing it as a whole. A failure is told by the error box and gives false; a
+// former file is then as it was.
 bool SavePdf(const Pages& pages, const Text& file);
 
 }  // namespace trovex

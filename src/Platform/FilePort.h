@@ -118,7 +118,8 @@ class FilePort {
   // Raises kFileNotFound, kPermissionDenied or kPathFileAccess.
   virtual void DeleteFile(const Text& name) = 0;
   // Gives the file `source` the name `place` in its directory, in place of a file that bears it, in
-  // one step. Raises as OpenWrite; both files then stay as they were.
+  // one step. The permissions of the former file stay, and a link goes on leading to the file,
+  // which is the new one. Raises as OpenWrite; both files then stay as they were.
   virtual void PutInPlace(const Text& source, const Text& place) = 0;
   // Makes one level of a directory. True if there is a directory of that name afterwards.
   virtual bool MakeDirectory(const Text& name) = 0;

@@ -1,9 +1,32 @@
 #include "Platform/SystemTexts.h"
 
 namespace trovex {
+namespace {
+
+// Numbers that say the same as others: a scratched disc, for one, has five.
+std::uint32_t UsualCode(std::uint32_t code) {
+  switch (code) {
+    case 14:  // no storage
+      return kSystemOutOfMemory;
+    case 23:  // checksum
+    case 27:  // sector not found
+    case 29:  // write fault
+    case 30:  // read fault
+    case 31:  // general failure
+      return kSystemDeviceIo;
+    case 39:  // disk full
+      return kSystemDiskFull;
+    case 1224:  // open and mapped
+      return kSystemInUse;
+    default:
+      return code;
+  }
+}
+
+}  // namespace
 
 Text SystemText(std::uint32_t code) {
-  switch (code) {
+  switch (UsualCode(code)) {
     case kSystemFileNotFound:
       return u"Le fichier n'existe pas à cet endroit.";
     case kSystemPathNotFound:

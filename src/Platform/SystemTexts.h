@@ -24,7 +24,7 @@ inline constexpr std::uint32_t kSystemNameTooLong = 206;
 inline constexpr std::uint32_t kSystemFileTooLarge = 223;
 inline constexpr std::uint32_t kSystemDeviceIo = 1117;
 
-// The text of one of these codes; empty for any other.
+// The text of one of these codes, or of one that says the same; empty for any other.
 Text SystemText(std::uint32_t code);
 
 }  // namespace trovex

@@ -18,9 +18,6 @@ void Control::SetTop(double top) {
 void Control::SetWidth(double width) {
   Move({place_.left, place_.top, width, place_.height});
 }
-void Control::SetHeight(double height) {
-  Move({place_.left, place_.top, place_.width, height});
-}
 
 void Control::Move(const Place& place) {
   Set(place_, place, Property::kPlace);

@@ -83,7 +83,6 @@ class Control {
   void SetLeft(double left);
   void SetTop(double top);
   void SetWidth(double width);
-  void SetHeight(double height);
   void Move(const Place& place);
 
   bool Visible() const { return visible_; }

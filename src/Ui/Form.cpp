@@ -37,7 +37,7 @@ Form::Form(const FormSpec& spec)
     : Control(ControlKind::kForm), spec_(spec), caption_(spec.caption), sizable_(spec.sizable) {
   SetName(spec.name, -1);
   SetBackColor(spec.back_color);
-  place_ = {0, 0, spec.client_width + frame_.width, spec.client_height + frame_.height};
+  place_ = {0, 0, spec.client_width + kWindowFrame.width, spec.client_height + kWindowFrame.height};
   SetVisible(false);
   if (spec.help != kNoText) BindHelpLine(*this, Words(spec)(spec.help));
   for (const ControlSpec& control : spec.controls) Add(control);
@@ -92,12 +92,6 @@ Control* Form::Find(TextView name, int index) const {
 
 void Form::SetCaption(TextView caption) {
   Set(caption_, Text(caption), Property::kText);
-}
-
-void Form::SetFrame(Extent frame) {
-  const double client_width = ScaleWidth(), client_height = ScaleHeight();
-  frame_ = frame;
-  Resize(client_width + frame.width, client_height + frame.height);
 }
 
 void Form::Resize(double width, double height) {

@@ -42,10 +42,9 @@ class Form : public Control {
   void SetCaption(TextView caption);
   bool Sizable() const { return sizable_; }
 
-  // The client area; outer size less the frame, whose measures the view may set.
-  double ScaleWidth() const { return Width() - frame_.width; }
-  double ScaleHeight() const { return Height() - frame_.height; }
-  void SetFrame(Extent frame);
+  // The client area; outer size less the frame.
+  double ScaleWidth() const { return Width() - kWindowFrame.width; }
+  double ScaleHeight() const { return Height() - kWindowFrame.height; }
   bool Minimised() const { return minimised_; }
   void SetMinimised(bool minimised) { minimised_ = minimised; }
   // A new outer size, by the program or the user: raises the resize event if it differs.
@@ -110,7 +109,6 @@ class Form : public Control {
   std::vector<std::unique_ptr<MenuEntry>> menu_entries_;
   Text caption_;
   bool sizable_;
-  Extent frame_ = kWindowFrame;
   bool minimised_ = false;
   bool unloading_ = false;
   View* view_ = nullptr;

@@ -56,7 +56,6 @@ class Grid : public Control {
   void SetSelEndCol(int col);
 
   // The column in which the user finds a row by typing the beginning of its text.
-  int SearchCol() const { return search_col_; }
   void SetSearchCol(int col) { search_col_ = col; }
   // The first row from `from` on, round and round, whose text in that column begins so, whatever
   // its case and the blanks before it; 0 if there is none. The current cell stays.

@@ -15,7 +15,6 @@ class Line : public Control {
   double X2() const { return x2_; }
   double Y2() const { return y2_; }
   void SetPoints(double x1, double y1, double x2, double y2);
-  void SetX2(double x2) { SetPoints(x1_, y1_, x2, y2_); }
 
  private:
   double x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "Platform/EntryNames.h"
+
 namespace trovex {
 
 bool ListOrder(TextView a, TextView b) {
-  return std::lexicographical_compare(
-      a.begin(), a.end(), b.begin(), b.end(),
-      [](char16_t x, char16_t y) { return ToUpper(x) < ToUpper(y); });
+  return CompareNoCase(a, b) < 0;
 }
 
 const Text& ListBox::List(int index) const {

@@ -74,6 +74,16 @@ TEST_F(FichesUnicodeTest, HoweverTheChoiceIsWrittenItIsNoOtherSetting) {
   EXPECT_FALSE(bAutresReglages(sFichierIni));
 }
 
+TEST_F(FichesUnicodeTest, WhatIsReadAsTheChoiceIsNoOtherSetting) {
+  for (const std::string& text : {std::string("[ Options ]\r\nfiches_unicode=-1\r\n"),
+                                  std::string("[Options\r\nfiches_unicode=-1\r\n\x1A"),
+                                  std::string("[Options] suite\r\nfiches_unicode=-1\r\n")}) {
+    Settings(text);
+    EXPECT_TRUE(AtTheStart()) << text;
+    EXPECT_FALSE(bAutresReglages(sFichierIni)) << text;
+  }
+}
+
 TEST_F(FichesUnicodeTest, AnythingElseIsAnotherSetting) {
   for (const char* text :
        {"", "; note\r\n", "[Options]\r\n", "[html]\r\nhtml_fin=0\r\n",

@@ -360,6 +360,14 @@ TEST_F(PrtPreviewTest, ALabelAtAPlaceHasItsValueBehindIt) {
   EXPECT_FALSE(FontOf(body[1]).bold);
 }
 
+TEST_F(PrtPreviewTest, APlaceIsGoneToThoughNothingStandsThere) {
+  PrtPreview document;
+  Surface();
+  document.PutItemsStringCmXY(u"", u"", 2, 5);
+  EXPECT_NEAR(document.GetCurrentCmX(), 2, 0.01);
+  EXPECT_NEAR(document.GetCurrentCmY(), 5, 0.01);
+}
+
 TEST_F(PrtPreviewTest, AValueWithoutALabelStandsAtTheLeftEdge) {
   PrtPreview document;
   document.PutItemsStringCmXY(u"", u"valeur", 7);

@@ -104,6 +104,19 @@ TEST_F(TextLayoutTest, WhatHasNoRoomBehindATabGoesToTheNextLine) {
   EXPECT_EQ(Lines(0).back(), u"fin");
 }
 
+TEST_F(TextLayoutTest, ALongParagraphBehindATabBeginsAtTheFirstStop) {
+  Print(u"\t" + Text(200, u'a'));
+  ASSERT_FALSE(Body(0).empty());
+  EXPECT_NEAR(Body(0)[0].baseline, kMargin + 0.833 * 200, 0.01);
+  EXPECT_NEAR(Body(0)[0].x, kMargin + 8 * kChar, 1);
+}
+
+TEST_F(TextLayoutTest, ATabAtTheEndOfAFullLineMakesNoEmptyOne) {
+  Print(Text(84, u'a') + u"\t\r\nb");
+  ASSERT_EQ(Body(0).size(), 2u);
+  EXPECT_NEAR(Body(0)[1].baseline - Body(0)[0].baseline, kLine, 0.01);
+}
+
 TEST_F(TextLayoutTest, ATabbedTextFlowsOntoTheNextPage) {
   Text text;
   for (int i = 0; i < 70; ++i) text += u"a\tb\r\n";

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace trovex::test {
 namespace {
 
 using records::FindProfileValue;
+using records::HoldsKeyAlone;
 using records::WithProfileValue;
 
 TEST(ProfileFile, FindsWithoutRegardToCase) {
@@ -70,6 +73,39 @@ TEST(ProfileFile, AFileInUtf16IsReadByItsMark) {
   EXPECT_EQ(FindProfileValue(Utf16(u""), u"a", u"k"), std::nullopt);
   for (std::size_t size = 0; size < file.size(); ++size) {
     FindProfileValue(file.substr(0, size), u"Réglages", u"Clé");
+  }
+}
+
+TEST(ProfileFile, HalvesOfCharactersInUtf16ComeOutAsTheyWentIn) {
+  const Text strange = {0xD800, u'a', 0xDCC3, 0xDCA9, 0xDFFF, 0xDBFF, u'z', 0xFFFF};
+  const std::string file = Utf16(u"[a]\r\n; " + strange + u"\r\nk=1\r\n");
+  EXPECT_EQ(WithProfileValue(file, u"a", u"k", u"2"),
+            Utf16(u"[a]\r\n; " + strange + u"\r\nk=2\r\n"));
+  EXPECT_EQ(FindProfileValue(Utf16(u"[a]\r\nk=" + strange + u"\r\n"), u"a", u"k"), strange);
+}
+
+TEST(ProfileFile, RandomUtf16KeepsItsOtherLines) {
+  std::mt19937 random(5);
+  for (int round = 0; round < 2000; ++round) {
+    Text line = u"; ";
+    for (std::size_t size = random() % 20; size > 0; --size) {
+      const auto unit = static_cast<char16_t>(random());
+      if (unit != u'\r' && unit != u'\n') line += unit;
+    }
+    const Text head = u"[a]\r\n" + line + u"\r\nk=";
+    ASSERT_EQ(WithProfileValue(Utf16(head + u"1\r\n"), u"a", u"k", u"x"), Utf16(head + u"x\r\n"));
+  }
+}
+
+TEST(ProfileFile, AKeyStandsAloneHoweverItIsWritten) {
+  for (const char* alone : {"[a]\r\nk=1\r\n", "[ A ]\n K = \n", "[a\nk=1", "[a] suite\nk=1\n\x1A",
+                            "; note\n\n[b]\n\t[a]\nk=1\nk=2\n"}) {
+    EXPECT_TRUE(HoldsKeyAlone(alone, u"a", u"k")) << alone;
+  }
+  EXPECT_TRUE(HoldsKeyAlone(Utf16(u"[a]\r\nk=1\r\n"), u"a", u"k"));
+  for (const char* other : {"", "[a]\n", "k=1\n", "[b]\nk=1\n", "[a]\nk=1\nl=2\n",
+                            "[a]\nk=1\nnote\n", "[b]\nl=1\n[a]\nk=1\n"}) {
+    EXPECT_FALSE(HoldsKeyAlone(other, u"a", u"k")) << other;
   }
 }
 

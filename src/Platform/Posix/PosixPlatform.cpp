@@ -299,15 +299,26 @@ void PosixPlatform::PutInPlace(const Text& source, const Text& place) {
     return FileError(found);
   });
   if (error != 0) Raise(error);
+  bool link = false;
   error = OnPlace(place, [&](const Place& found) {
     const int unusable = FileError(found);
     if (unusable != 0 && unusable != ENOENT) return unusable;
     struct stat status;
-    if (unusable == 0 && StatHost(found.host, status) && !MayWriteHost(found.host, status)) {
-      return EACCES;
+    if (unusable == 0 && StatHost(found.host, status)) {
+      if (!MayWriteHost(found.host, status)) return EACCES;
+      struct stat own;
+      link = StatHostLink(found.host, own) && S_ISLNK(own.st_mode);
+      if (link) return 0;
+      const FileDescriptor file = OpenHostPath(from, O_RDONLY);
+      if (!file.IsOpen() || fchmod(file.Get(), status.st_mode & 07777) != 0) return errno;
     }
     return RenameHost(from, found.host) ? 0 : errno;
   });
+  // What a link leads to may lie on another file system: that is written anew.
+  if (link) {
+    CopyFile(source, place);
+    DeleteFile(source);
+  }
   if (error != 0) Raise(error);
 }
 

@@ -22,10 +22,6 @@ void RegistryTable::Set(RegistryRoot root, const Text& key, const Text& name, Re
   keys_[PathOf(root, key)][ToUpper(name)] = std::move(value);
 }
 
-bool RegistryTable::HasKey(RegistryRoot root, const Text& key) const {
-  return keys_.contains(PathOf(root, key));
-}
-
 RegistryKey RegistryTable::Hand(const Path& path) {
   // The same key has the same handle, so that keys that stay open cost nothing.
   auto opened = std::find(opened_.begin(), opened_.end(), path);

@@ -13,7 +13,6 @@ class RegistryTable {
   // The default value of a key, or one of its named values, as a string; makes the key.
   void SetString(RegistryRoot root, const Text& key, const Text& value, const Text& name = {});
   void Set(RegistryRoot root, const Text& key, const Text& name, RegistryValue value);
-  bool HasKey(RegistryRoot root, const Text& key) const;
 
   // The operations of the port.
   long Create(RegistryRoot root, const Text& name, RegistryKey& key);

@@ -10,8 +10,48 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kUtf16Mark = "\xFF\xFE";
 
-// What a file is read as and written back as. One in UTF-16 goes through UTF-8, in which brackets,
-// equal signs and line ends are single bytes as well.
+std::string BytesOf(TextView units) {
+  std::string bytes;
+  for (const char16_t unit : units) {
+    if (unit < 0x80) {
+      bytes += static_cast<char>(unit);
+      continue;
+    }
+    if (unit < 0x800) {
+      bytes += static_cast<char>(0xC0 | unit >> 6);
+    } else {
+      bytes += static_cast<char>(0xE0 | unit >> 12);
+      bytes += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
+    }
+    bytes += static_cast<char>(0x80 | (unit & 0x3F));
+  }
+  return bytes;
+}
+
+// Of bytes that BytesOf made.
+Text UnitsOf(std::string_view bytes) {
+  Text units;
+  unsigned unit = 0;
+  int missing = 0;
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool first = byte < 0x80 || byte >= 0xC0;
+    if (first)
+      missing = byte < 0x80 ? 0 : byte < 0xE0 ? 1 : 2;
+    else
+      --missing;
+    unit = first ? byte & (byte < 0x80   ? 0x7F
+                           : byte < 0xE0 ? 0x1F
+                                         : 0x0F)
+                 : unit << 6 | (byte & 0x3F);
+    if (missing == 0) units += static_cast<char16_t>(unit);
+  }
+  return units;
+}
+
+// What a file is read as and written back as. One in UTF-16 goes through bytes as UTF-8 has them,
+// in which brackets, equal signs and line ends are single bytes as well; but each unit goes by
+// itself, so that halves of characters come out as they went in.
 struct Form {
   Text (*decode)(std::string_view bytes);
   std::string (*encode)(TextView text);
@@ -19,13 +59,13 @@ struct Form {
 };
 
 constexpr Form kAnsi = {FromCp1252, ToCp1252, true};
-constexpr Form kUnicode = {FromUtf8, ToUtf8, false};
+constexpr Form kUnicode = {UnitsOf, BytesOf, false};
 
 bool IsUtf16(std::string_view file) {
   return file.starts_with(kUtf16Mark);
 }
 
-std::string Utf8FromUtf16(std::string_view file) {
+std::string BytesFromUtf16(std::string_view file) {
   file.remove_prefix(kUtf16Mark.size());
   Text text;
   for (std::size_t i = 0; i + 1 < file.size(); i += 2) {
@@ -33,12 +73,12 @@ std::string Utf8FromUtf16(std::string_view file) {
     const auto high = static_cast<unsigned char>(file[i + 1]);
     text += static_cast<char16_t>(high << 8 | low);
   }
-  return ToUtf8(text);
+  return BytesOf(text);
 }
 
-std::string Utf16FromUtf8(std::string_view bytes) {
+std::string Utf16FromBytes(std::string_view bytes) {
   std::string file(kUtf16Mark);
-  for (const char16_t unit : FromUtf8(bytes)) {
+  for (const char16_t unit : UnitsOf(bytes)) {
     file += static_cast<char>(unit & 0xFF);
     file += static_cast<char>(unit >> 8);
   }
@@ -168,13 +208,34 @@ std::optional<Text> ValueIn(const Form& form, std::string_view file, TextView se
   return form.decode(WithoutQuotes(spot.key->value));
 }
 
+bool KeyAlone(const Form& form, std::string_view file, TextView section, TextView key) {
+  bool inside = false, found = false;
+  Lines lines(file);
+  while (const std::optional<Line> line = lines.Next()) {
+    const std::string_view text = file.substr(line->begin, line->text_end - line->begin);
+    if (line->kind == Line::Kind::kSection) {
+      inside = Matches(form, line->name, section);
+    } else if (inside && line->kind == Line::Kind::kKey && Matches(form, line->name, key)) {
+      found = true;
+    } else if (line->kind != Line::Kind::kEmpty && !Stripped(text).starts_with(';')) {
+      return false;
+    }
+  }
+  return found;
+}
+
 }  // namespace
 
 std::optional<Text> FindProfileValue(std::string_view file, TextView section, TextView key) {
   section = StrippedName(section);
   key = StrippedName(key);
   if (!IsUtf16(file)) return ValueIn(kAnsi, file, section, key);
-  return ValueIn(kUnicode, Utf8FromUtf16(file), section, key);
+  return ValueIn(kUnicode, BytesFromUtf16(file), section, key);
+}
+
+bool HoldsKeyAlone(std::string_view file, TextView section, TextView key) {
+  if (!IsUtf16(file)) return KeyAlone(kAnsi, file, section, key);
+  return KeyAlone(kUnicode, BytesFromUtf16(file), section, key);
 }
 
 std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,
@@ -191,7 +252,7 @@ std::string WithProfileValue(std::string_view file, TextView section, TextView k
   section = StrippedName(section);
   key = StrippedName(key);
   if (!IsUtf16(file)) return WithValue(kAnsi, file, section, key, value);
-  return Utf16FromUtf8(WithValue(kUnicode, Utf8FromUtf16(file), section, key, value));
+  return Utf16FromBytes(WithValue(kUnicode, BytesFromUtf16(file), section, key, value));
 }
 
 }  // namespace trovex::records

@@ -21,6 +21,9 @@ inline constexpr std::size_t kMaxProfile = 1 << 20;
 // quotes. Nothing where section or key is missing; a line without "=" is no key.
 std::optional<Text> FindProfileValue(std::string_view file, TextView section, TextView key);
 
+// True if the file has that key, and nothing else but sections, comments and empty lines.
+bool HoldsKeyAlone(std::string_view file, TextView section, TextView key);
+
 // The answer of GetPrivateProfileString where the file holds `bytes`; a file without any stands for
 // one that is missing.
 std::uint32_t ProfileAnswer(const std::string& bytes, const Text& section, const Text& key,

@@ -1,6 +1,8 @@
 // Version records and profile files.
 #include <algorithm>
+#include <optional>
 
+#include "Platform/NewFile.h"
 #include "Platform/Records/ProfileFile.h"
 #include "Platform/Records/VersionResource.h"
 #include "Platform/Win32/FileReads.h"
@@ -29,45 +31,37 @@ std::string RecordOf(const Text& name) {
 }
 
 // The system's profile functions know no name of more than 259 characters: such a file is read
-// here. Nothing for one that is missing.
-std::string ProfileBytes(Platform& platform, const Text& file) {
+// here. Empty for one that is missing; nothing for one that is there and cannot be read.
+std::optional<std::string> ProfileBytes(Platform& platform, const Text& file) {
+  FileStatus status;
+  if (!platform.GetFileStatus(file, status)) return std::string();
   std::string bytes(records::kMaxProfile, '\0');
   try {
     const FileHandle handle = platform.OpenRead(file);
-    std::size_t count = 0;
+    std::optional<std::size_t> count;
     IgnoringErrors([&] { count = platform.Read(handle, bytes.data(), bytes.size()); });
     platform.Close(handle);
-    bytes.resize(count);
+    if (!count) return std::nullopt;
+    bytes.resize(*count);
     return bytes;
   } catch (const RuntimeError&) {
-    return {};
+    return std::nullopt;
   }
 }
 
-// A longer one than is read would be cut short, so it is not written.
+// One that cannot be read is left alone, and so is one of which only a part would be.
 bool WriteLongNamed(Platform& platform, const Text& section, const Text& key, const Text& value,
                     const Text& file) {
-  const std::string former = ProfileBytes(platform, file);
-  if (former.size() == records::kMaxProfile) return false;
-  const std::string bytes = records::WithProfileValue(former, section, key, value);
-  const Text beside = file + u".~Trvx";
+  const std::optional<std::string> former = ProfileBytes(platform, file);
+  if (!former || former->size() == records::kMaxProfile) return false;
   try {
-    const FileHandle handle = platform.OpenWrite(beside);
-    bool written = false;
-    IgnoringErrors([&] {
-      platform.Write(handle, bytes.data(), bytes.size());
-      written = true;
-    });
-    platform.Close(handle);
-    if (written) {
-      platform.PutInPlace(beside, file);
-      return true;
-    }
+    NewFile bytes(platform, file);
+    bytes.Write(records::WithProfileValue(*former, section, key, value));
+    bytes.Keep();
+    return true;
   } catch (const RuntimeError&) {
-    // The file is as it was; what stands beside it goes.
+    return false;
   }
-  IgnoringErrors([&] { platform.DeleteFile(beside); });
-  return false;
 }
 
 // The system's own functions take no such name.
@@ -108,7 +102,8 @@ std::uint32_t Win32Platform::GetPrivateProfileString(const Text& section, const 
                                                      const Text& fallback, Text& buffer,
                                                      std::uint32_t size, const Text& file) {
   if (IsBeyondProfiles(file)) {
-    return records::ProfileAnswer(ProfileBytes(*this, file), section, key, fallback, buffer, size);
+    return records::ProfileAnswer(ProfileBytes(*this, file).value_or(""), section, key, fallback,
+                                  buffer, size);
   }
   const Unredirected unredirected;
   buffer.assign(size, u'\0');

@@ -157,7 +157,6 @@ class DirListWindow : public NativeControl {
   DirListWindow(DirListBox& model, FormWindow& form);
   void OnCommand(WORD code) override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
-  void OnMeasure(MEASUREITEMSTRUCT& item) override;
   bool OnKey(WPARAM key) override;
   void Rescale() override;
 
@@ -178,7 +177,6 @@ class DriveListWindow : public NativeControl {
   DriveListWindow(DriveListBox& model, FormWindow& form);
   void OnCommand(WORD code) override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
-  void OnMeasure(MEASUREITEMSTRUCT& item) override;
   void Rescale() override;
 
  protected:

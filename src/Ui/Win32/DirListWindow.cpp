@@ -56,10 +56,6 @@ int DirListWindow::ItemHeight() const {
   return GetScale().Pixels(kLineHeight);
 }
 
-void DirListWindow::OnMeasure(MEASUREITEMSTRUCT& item) {
-  item.itemHeight = static_cast<UINT>(ItemHeight());
-}
-
 void DirListWindow::Rescale() {
   NativeControl::Rescale();
   Send(LB_SETITEMHEIGHT, 0, ItemHeight());

@@ -89,10 +89,6 @@ void DriveListWindow::OnCommand(WORD code) {
   }
 }
 
-void DriveListWindow::OnMeasure(MEASUREITEMSTRUCT& item) {
-  item.itemHeight = static_cast<UINT>(GetScale().Pixels(kLineHeight));
-}
-
 void DriveListWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   const bool selected = (item.itemState & ODS_SELECTED) != 0;
   RECT area = item.rcItem;

@@ -53,7 +53,6 @@ class NativeControl {
   virtual void OnPartNotify(const NMHDR& /*header*/) {}
   virtual void OnScroll(WORD /*code*/) {}
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
-  virtual void OnMeasure(MEASUREITEMSTRUCT& /*item*/) {}
   // Colours of a static or edit window; null for the usual ones.
   virtual HBRUSH OnColour(HDC /*dc*/) { return nullptr; }
   // The left button or a key went down on the window, which has not acted on it yet.

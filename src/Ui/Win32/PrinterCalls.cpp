@@ -42,8 +42,9 @@ HGLOBAL SettingsOf(const Text& printer) {
 }  // namespace
 
 PrinterCalls& Printers() {
-  static PrinterCalls calls = {FirstPrinter, SettingsOf, PrintDlgW, GetDeviceCaps, SetAbortProc,
-                               StartDocW,    StartPage,  EndPage,   EndDoc,        AbortDoc};
+  static PrinterCalls calls = {FirstPrinter,  SettingsOf,   PrintDlgW, CommDlgExtendedError,
+                               GetDeviceCaps, SetAbortProc, StartDocW, StartPage,
+                               EndPage,       EndDoc,       AbortDoc};
   return calls;
 }
 

@@ -15,6 +15,8 @@ struct PrinterCalls {
   // A copy of the printer's own settings in memory that GlobalFree frees; null where it has none.
   HGLOBAL (*settings_of)(const Text& printer);
   BOOL(WINAPI* dialog)(PRINTDLGW* dialog);
+  // Why the dialog came to nothing; 0 where the user went back.
+  DWORD(WINAPI* dialog_error)();
   int(WINAPI* capability)(HDC dc, int index);
   int(WINAPI* set_abort)(HDC dc, ABORTPROC procedure);
   int(WINAPI* start_document)(HDC dc, const DOCINFOW* document);

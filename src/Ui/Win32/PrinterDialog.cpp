@@ -65,10 +65,11 @@ void PrinterDialog::Lay(Extent page) {
 }
 
 // Printing into a file is left to printers that do nothing else: they ask for a name themselves.
-bool PrinterDialog::Ask() {
+PrinterDialog::Answer PrinterDialog::Ask() {
   dialog_.Flags = PD_ALLPAGES | PD_NOSELECTION | PD_RETURNDC | PD_USEDEVMODECOPIESANDCOLLATE |
                   PD_HIDEPRINTTOFILE | PD_DISABLEPRINTTOFILE | PD_NOWARNING;
-  return Printers().dialog(&dialog_) && dialog_.hDC != nullptr;
+  if (Printers().dialog(&dialog_)) return dialog_.hDC ? Answer::kPrint : Answer::kFailed;
+  return Printers().dialog_error() == 0 ? Answer::kBack : Answer::kFailed;
 }
 
 std::size_t PrinterDialog::End(std::size_t pages) const {

@@ -17,8 +17,8 @@ class PrinterDialog {
   // Takes the default printer with its own paper, or the first where none is the default, and lays
   // the paper as the page lies. False where the system knows no printer.
   bool Prepare(Extent page);
-  // False where the user goes back.
-  bool Ask();
+  enum class Answer { kPrint, kBack, kFailed };
+  Answer Ask();
 
   HDC Device() const { return dialog_.hDC; }
   // The first page to print, from 0, and the one behind the last.

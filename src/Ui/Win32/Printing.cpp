@@ -62,8 +62,10 @@ class Job {
     if (started <= 0) return OutcomeOf(started);
     const Outcome outcome = PrintAll(dc);
     if (outcome == Outcome::kDone) {
+      SetLastError(ERROR_SUCCESS);
       const int ended = printer.end_document(dc);
-      return ended > 0 ? outcome : OutcomeOf(ended);
+      if (ended > 0) return outcome;
+      return box_.GoOn() ? OutcomeOf(ended) : Outcome::kCancelled;
     }
     printer.abort_document(dc);
     return outcome;
@@ -115,7 +117,11 @@ void PrintPages(HWND owner, const Preview& preview, Fonts& fonts, PrintMeasure& 
   if (!dialog.Prepare(pages.pages.front().paper)) {
     return preview.on_failure(preview.texts.no_printer);
   }
-  if (!dialog.Ask()) return;
+  const PrinterDialog::Answer answer = dialog.Ask();
+  if (answer == PrinterDialog::Answer::kBack) return;
+  if (answer == PrinterDialog::Answer::kFailed) {
+    return preview.on_failure(preview.texts.not_printed);
+  }
   PagePainter painter(pages, fonts, measure);
   Outcome outcome = Outcome::kDone;
   {

@@ -7,6 +7,9 @@
 #include "Platform/Win32/Names.h"
 #include "Ui/Win32/PrinterCalls.h"
 
+// Behind Windows.h.
+#include <cderr.h>
+
 namespace trovex::win32 {
 namespace {
 
@@ -22,6 +25,10 @@ struct Machine {
   std::function<void(PRINTDLGW&)> on_dialog;
   std::function<int(int)> on_end_page = [](int) { return 1; };
   std::function<void(int)> on_start_page;
+  std::function<int()> on_start = [] { return 1; };
+  std::function<int()> on_end = [] { return 1; };
+  bool dialog_fails = false;
+  DWORD dialog_error = 0;
 
   std::vector<std::string> calls;
   int pages = 0;
@@ -48,9 +55,14 @@ BOOL WINAPI Dialog(PRINTDLGW* dialog) {
     return TRUE;
   }
   machine->calls.push_back("dialog");
+  if (machine->dialog_fails) return FALSE;
   if (machine->on_dialog) machine->on_dialog(*dialog);
   dialog->hDC = CreateCompatibleDC(nullptr);
   return TRUE;
+}
+
+DWORD WINAPI DialogError() {
+  return machine->dialog_error;
 }
 
 Text FirstPrinter() {
@@ -69,7 +81,7 @@ int WINAPI SetAbort(HDC, ABORTPROC procedure) {
 int WINAPI StartDocument(HDC, const DOCINFOW* document) {
   machine->calls.push_back("start");
   machine->title = FromWide(document->lpszDocName);
-  return 1;
+  return machine->on_start();
 }
 int WINAPI StartOfPage(HDC) {
   ++machine->pages;
@@ -81,18 +93,22 @@ int WINAPI EndOfPage(HDC) {
 }
 int WINAPI EndDocument(HDC) {
   machine->calls.push_back("end");
-  return 1;
+  return machine->on_end();
 }
 int WINAPI AbortDocument(HDC) {
   machine->calls.push_back("abort");
   return 1;
 }
 
+HWND Box() {
+  return FindWindowW(L"TrovexPrinting", nullptr);
+}
+
 class PrintingTest : public ::testing::Test {
  protected:
   PrintingTest() : former_(Printers()) {
     machine = &machine_;
-    Printers() = {FirstPrinter,  SettingsOf,  Dialog,    Capability,  SetAbort,
+    Printers() = {FirstPrinter,  SettingsOf,  Dialog,    DialogError, Capability,   SetAbort,
                   StartDocument, StartOfPage, EndOfPage, EndDocument, AbortDocument};
     texts_.page = u"Page ";
     texts_.of = u" sur ";
@@ -116,7 +132,6 @@ class PrintingTest : public ::testing::Test {
     const Preview preview = {document_, true, u"Trovex", texts_, {}, fail};
     PrintPages(owner_, preview, fonts_, measure_);
   }
-  static HWND Box() { return FindWindowW(L"TrovexPrinting", nullptr); }
   static Text TextOf(HWND window) {
     wchar_t text[100] = {};
     GetWindowTextW(window, text, 100);
@@ -270,6 +285,47 @@ TEST_F(PrintingTest, WhatThePrinterRefusesIsReported) {
   Print();
   EXPECT_THAT(failures_, ElementsAre(u"refus"));
   EXPECT_THAT(machine_.calls, ElementsAre("dialog", "start", "abort"));
+}
+
+TEST_F(PrintingTest, WhoGoesBackInTheDialogIsToldNothing) {
+  machine_.dialog_fails = true;
+  Print();
+  EXPECT_TRUE(failures_.empty());
+  EXPECT_THAT(machine_.calls, ElementsAre("dialog"));
+}
+
+TEST_F(PrintingTest, ADialogThatFailsIsReported) {
+  machine_.dialog_fails = true;
+  machine_.dialog_error = PDERR_PRINTERNOTFOUND;
+  Print();
+  EXPECT_THAT(failures_, ElementsAre(u"refus"));
+  EXPECT_THAT(machine_.calls, ElementsAre("dialog"));
+}
+
+TEST_F(PrintingTest, WhoGoesBackWhereADriverAsksForAFileIsToldNothing) {
+  machine_.on_start = [] {
+    SetLastError(ERROR_CANCELLED);
+    return SP_ERROR;
+  };
+  Print();
+  EXPECT_TRUE(failures_.empty());
+  EXPECT_EQ(machine_.pages, 0);
+}
+
+TEST_F(PrintingTest, AJobThatFailsAtItsEndIsReported) {
+  SetLastError(ERROR_PRINT_CANCELLED);
+  machine_.on_end = [] { return SP_ERROR; };
+  Print();
+  EXPECT_THAT(failures_, ElementsAre(u"refus")) << "an older code says nothing about this job";
+}
+
+TEST_F(PrintingTest, AJobStoppedAtItsEndIsNoFailure) {
+  machine_.on_end = [] {
+    SendMessageW(Box(), WM_CLOSE, 0, 0);
+    return SP_ERROR;
+  };
+  Print();
+  EXPECT_TRUE(failures_.empty());
 }
 
 TEST(SheetFitTest, APageLiesInTheMiddleAsLargeAsItCanBe) {
