@@ -208,6 +208,20 @@ TEST_F(BadDiscs, AnImageOfATebibyteIsNotGoneThroughToItsEnd) {
   }
 }
 
+// The image ends in the last file, at whatever place of a piece that is read.
+TEST_F(BadDiscs, AFileThatTheImageHoldsInPartIsUnreadThoughAPieceOfItCame) {
+  IsoBuilder builder;
+  builder.File("README.TXT", std::string(5000, 'x'));
+  const BuiltIso iso = builder.Build(IsoFormat::kPlain);
+  for (const std::size_t left : {0, 1, 2047, 2048, 2049, 4096, 4999}) {
+    Insert(iso.bytes.substr(0, iso.data.at("README.TXT") + left));
+    const FileHandle file = platform_.OpenRead(u"E:\\README.TXT");
+    char piece[5000];
+    EXPECT_THROW(platform_.Read(file, piece, sizeof piece), RuntimeError) << left;
+    platform_.Close(file);
+  }
+}
+
 // --- Anything at all ----------------------------------------------------------------------------
 
 TEST_F(BadDiscs, BytesChangedAtRandomEndWell) {
