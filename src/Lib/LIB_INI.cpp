@@ -101,7 +101,7 @@ Text IniEnMain::sLitIni(const Text& sSection, const Text& sCle, const Text& sDef
     if (sFichier != sDernierFichierIni && !file_.Exists()) return sDefaut;
     sDernierFichierIni = sFichier;
     if (!bytes_) bytes_ = sOctetsIni(file_);
-    if (IsGros(*bytes_)) return sLitIniGrosFichier(sSection, sCle, sDefaut, sFichier);
+    if (IsGros(*bytes_)) return sLitIniGrosFichier(sSection, sCle, sDefaut, file_);
     Text buffer;
     const std::uint32_t n =
         records::ProfileAnswer(*bytes_, sSection, sCle, sDefaut, buffer, kValueBuffer);

@@ -50,9 +50,10 @@ Text sLitWinIni(const Text& sSection, const Text& sCle);
 Text vExtensionWinIni(const Text& sExtension);
 
 // The path for large files. It does not notice the end of a section: a key of that name below a
-// later section matches too. A file number that is passed along stays open.
+// later section matches too. A file number that is passed along stays open. A reading that fails is
+// reported and noted as unread.
 Text sLitIniGrosFichier(const Text& sSection, const Text& sCle, const Text& sDefaut,
-                        const Text& sFichier, int hFichier = -1);
+                        const FileInHand& oFichier, int hFichier = -1);
 void EcritIniGrosFichier(const Text& sSection, const Text& sCle, const Text& sValeur,
                          const Text& sFichier, int hEntree = -1, int hSortie = -1);
 

@@ -12,9 +12,9 @@ Text HeaderOf(const Text& sSection) {
   return u"[" + Trim(sSection) + u"]";
 }
 
-long long LengthOf(const Text& sFichier) {
+long long LengthOf(const FileInHand& oFichier) {
   FileStatus status;
-  return CurrentPlatform().GetFileStatus(sFichier, status) ? status.length : 0;
+  return oFichier.GetFileStatus(status) ? status.length : 0;
 }
 
 void Report(StringId label, const Text& sSection) {
@@ -101,10 +101,10 @@ class ValueWriter {
 }  // namespace
 
 Text sLitIniGrosFichier(const Text& sSection, const Text& sCle, const Text& sDefaut,
-                        const Text& sFichier, int hFichier) {
-  if (!bFichierExiste(sFichier)) return sDefaut;
-  if (LengthOf(sFichier) < kGrosFichier) return sLitIni(sSection, sCle, sDefaut, sFichier);
-  const int hLecture = hFichier == -1 ? iOuvreLecture(sFichier) : hFichier;
+                        const FileInHand& oFichier, int hFichier) {
+  if (!oFichier.Exists()) return sDefaut;
+  if (LengthOf(oFichier) < kGrosFichier) return sLitIni(sSection, sCle, sDefaut, oFichier.Name());
+  const int hLecture = hFichier == -1 ? iOuvreLecture(oFichier) : hFichier;
   if (hLecture == -1) return sDefaut;
   Text sResultat = sDefaut;
   try {
@@ -112,6 +112,7 @@ Text sLitIniGrosFichier(const Text& sSection, const Text& sCle, const Text& sDef
     if (hFichier == -1) CloseFile(hLecture);
   } catch (const RuntimeError& error) {
     Err().Set(error);
+    oFichier.NoteUnread();
     if (hFichier == -1) CloseQuietly(hLecture);
     Report(StringId::kErreurLectureSection, sSection);
   }

@@ -307,6 +307,39 @@ TEST_F(WalkerTest, WhatCouldNotBeReadIsNoted) {
   EXPECT_THAT(unread.Names(), ElementsAre(u"D:\\Secret"));
 }
 
+// A disc whose files can be read up to a place only.
+class ScratchedPlatform : public ForwardingPlatform {
+ public:
+  using ForwardingPlatform::ForwardingPlatform;
+  std::size_t Read(FileHandle file, void* buffer, std::size_t size) override {
+    if (read_[file] >= 321000) throw RuntimeError(ErrorNumber::kDeviceIo);
+    const std::size_t got = ForwardingPlatform::Read(file, buffer, size);
+    read_[file] += got;
+    return got;
+  }
+  void Close(FileHandle file) override {
+    read_.erase(file);
+    ForwardingPlatform::Close(file);
+  }
+
+ private:
+  std::map<FileHandle, std::size_t> read_;
+};
+
+TEST_F(WalkerTest, ALargeIniFileThatFailsFurtherOnIsNoted) {
+  Dos("A.EXE");
+  std::string bytes = "[a]\r\n";
+  while (bytes.size() < 400000) bytes += std::string(78, ';') + "\r\n";
+  disc.File("SETUP.LST", bytes + "[Setup]\r\nTitle=Jeu\r\n");
+  ScratchedPlatform scratched(platform_);
+  PlatformScope scope(scratched);
+  for (int box = 0; box < 3; ++box) view.Answer(BoxAnswer::kOk);
+  Unread unread;
+  UnreadScope unread_scope(unread);
+  ExplorerRepertoire(u"D:\\", true);
+  EXPECT_THAT(unread.Names(), ElementsAre(u"D:\\SETUP.LST"));
+}
+
 TEST_F(WalkerTest, AnEmptyRootIsReadLikeAnyOther) {
   Unread unread;
   UnreadScope unread_scope(unread);
