@@ -18,9 +18,12 @@ class FileSource : public records::ByteSource {
  public:
   explicit FileSource(void* file) : file_(file) {}
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) override;
+  // The system's code for the last reading that failed, 0 if none did.
+  std::uint32_t Error() const { return error_; }
 
  private:
   void* file_;
+  std::uint32_t error_ = 0;
 };
 
 }  // namespace trovex

@@ -224,7 +224,10 @@ std::size_t FileSource::ReadAt(std::uint64_t offset, char* buffer, std::size_t s
   place.OffsetHigh = static_cast<DWORD>(offset >> 32);
   DWORD count = 0;
   const auto piece = static_cast<DWORD>(std::min(size, kLargestPiece));
-  return ReadFile(file_, buffer, piece, &count, &place) ? count : 0;
+  if (ReadFile(file_, buffer, piece, &count, &place)) return count;
+  const DWORD code = ::GetLastError();
+  if (code != ERROR_HANDLE_EOF) error_ = code;
+  return 0;
 }
 
 // --- Directory search -----------------------------------------------------------------------

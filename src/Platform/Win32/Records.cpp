@@ -23,7 +23,11 @@ std::string RecordOf(const Text& name) {
   try {
     const OwnedFile file = OpenForReading(name);
     FileSource source(file.get());
-    return records::ReadVersionRecord(source);
+    std::string record = records::ReadVersionRecord(source);
+    if (const std::uint32_t code = source.Error()) {
+      throw RuntimeError::OfSystem(ErrorNumber::kDeviceIo, code);
+    }
+    return record;
   } catch (const RuntimeError& error) {
     if (IsRefusal(error)) throw;
     return {};
@@ -90,7 +94,7 @@ Reading Win32Platform::GetFileProperties(const Text& name, FileStatus& status,
     if (!StatusOf(file.get(), status)) return Reading::kNothing;
     FileSource source(file.get());
     record = records::ReadVersionRecord(source);
-    return Reading::kAll;
+    return source.Error() == 0 ? Reading::kAll : Reading::kStatus;
   } catch (const RuntimeError& error) {
     // What cannot be opened may have a status all the same.
     if (!GetFileStatus(name, status)) return Reading::kNothing;

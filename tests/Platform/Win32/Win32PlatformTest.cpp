@@ -1,9 +1,11 @@
 // What only Windows has: a current directory on each of several drives, devices that hide behind
 // names, read-only files, files in use, the process's environment.
+#include "Platform/Win32/FileReads.h"
 #include "Platform/Win32/Handles.h"
 #include "Platform/Win32/Names.h"
 #include "Platform/Win32/Windows.h"
 #include "Platform/contract/Contract.h"
+#include "support/ExecutableBuilder.h"
 
 namespace trovex::test {
 namespace {
@@ -68,6 +70,42 @@ TEST_F(Win32PlatformTest, ANetworkPathBecomesTheCurrentDirectory) {
   EXPECT_EQ(platform_.GetCurrentDirectory(), u"\\\\trovex\\jeux");
   platform_.ChangeDrive(u"D:");
   EXPECT_EQ(platform_.GetCurrentDirectory(), u"D:\\");
+}
+
+// --- Files whose reading fails ------------------------------------------------------------------
+
+TEST_F(Win32PlatformTest, AReadingThatFailsIsToldFromTheEndOfTheFile) {
+  disc_.File("A.EXE", "MZ");
+  char buffer[8];
+  const OwnedFile readable = OpenForReading(u"D:\\A.EXE");
+  FileSource source(readable.get());
+  EXPECT_EQ(source.ReadAt(0, buffer, sizeof buffer), 2u);
+  EXPECT_EQ(source.ReadAt(2, buffer, sizeof buffer), 0u);
+  EXPECT_EQ(source.Error(), 0u);
+  const OwnedFile unreadable =
+      OwnFile(CreateFileW(L"D:\\A.EXE", FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                          nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(unreadable);
+  FileSource refused(unreadable.get());
+  EXPECT_EQ(refused.ReadAt(0, buffer, sizeof buffer), 0u);
+  EXPECT_NE(refused.Error(), 0u);
+}
+
+// Opens, but its first bytes cannot be read: some are locked by another user of the file. Wine does
+// not hold to locks, but shows the memory of a process, which begins with a hole.
+TEST_F(Win32PlatformTest, AFileWhoseReadingFailsHasItsStatusAlone) {
+  disc_.File("A.EXE", DosExecutable());
+  const bool wine = CurrentHostSystem() == HostSystem::kWine;
+  const Text name = wine ? u"Z:\\proc\\self\\mem" : u"D:\\A.EXE";
+  const OwnedFile other =
+      OwnFile(CreateFileW(L"D:\\A.EXE", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                          OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(LockFile(other.get(), 0, 0, 2, 0));
+  FileStatus status;
+  std::string record = "reste";
+  EXPECT_EQ(platform_.GetFileProperties(name, status, record), Reading::kStatus);
+  EXPECT_EQ(record, "");
+  EXPECT_EQ(ErrorOf([&] { platform_.GetFileVersionInfoSize(name); }), ErrorNumber::kDeviceIo);
 }
 
 // --- Surroundings -------------------------------------------------------------------------------
