@@ -91,6 +91,34 @@ TEST_F(ImageCliTest, WhatAnImageLacksIsUnreadAndTheRestIsCatalogued) {
   EXPECT_THAT(err_, testing::HasSubstr("SETUP.EXE"));
 }
 
+// What an image holds of the last of its files is not that file.
+TEST_F(ImageCliTest, ATextThatTheImageHoldsInPartIsUnread) {
+  IsoBuilder builder;
+  builder.File("JEU.EXE", DosExecutable());
+  builder.File("README.TXT", std::string(5000, 'x') + "\r\n");
+  const BuiltIso iso = builder.Build(IsoFormat::kPlain);
+  disc_.File("disque.bin", iso.bytes.substr(0, iso.data.at("README.TXT") + kIsoSector));
+  EXPECT_EQ(RunWith({Argument("disque.bin"), "--json"}), cli::kIncomplete);
+  const Json catalogue = Json::parse(out_);
+  EXPECT_EQ(catalogue["unread"], Json({"D:\\readme.txt"}));
+  ASSERT_FALSE(catalogue["messages"].empty());
+  EXPECT_THAT(catalogue["messages"][0]["text"].get<std::string>(),
+              testing::StartsWith("Ouverture impossibleD:\\readme.txt"));
+  EXPECT_EQ(catalogue["tables"][1]["rows"][0][0], "");
+}
+
+TEST_F(ImageCliTest, AnIniFileThatTheImageHoldsInPartIsUnread) {
+  IsoBuilder builder;
+  builder.File("JEU.EXE", DosExecutable());
+  builder.File("SETUP.LST",
+               "[Setup]\r\nTitle=Moitié\r\n" + std::string(5000, ';') + "\r\nTitle=Tout\r\n");
+  const BuiltIso iso = builder.Build(IsoFormat::kPlain);
+  disc_.File("disque.bin", iso.bytes.substr(0, iso.data.at("SETUP.LST") + kIsoSector));
+  EXPECT_EQ(RunWith({Argument("disque.bin"), "--json"}), cli::kIncomplete);
+  EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\SETUP.LST"}));
+  EXPECT_EQ(Json::parse(out_)["tables"][1]["rows"][0][0], "");
+}
+
 TEST_F(ImageCliTest, AnImageThatEndsBeforeItsVolumeSaysSo) {
   BuiltIso iso = Games().Build(IsoFormat::kPlain);
   iso.Put(kPrimarySpace, 100000);

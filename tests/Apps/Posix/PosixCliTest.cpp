@@ -128,8 +128,8 @@ TEST_F(PosixCliTest, ErrorBoxesAreRecordedAndGoToStandardErrorAsOftenAsTheyCome)
 
 class UnreadCliTest : public PosixCliTest {
  protected:
-  void Lock(const std::string& path) {
-    std::filesystem::permissions(disc_.HostPath(path), std::filesystem::perms::none);
+  void Lock(const std::string& path, std::filesystem::perms left = std::filesystem::perms::none) {
+    std::filesystem::permissions(disc_.HostPath(path), left);
     locked_.push_back(path);
   }
   ~UnreadCliTest() override {
@@ -180,6 +180,26 @@ TEST_F(UnreadCliTest, ACompanionThatIsRefusedIsToldByTheInspection) {
   EXPECT_EQ(Run({"--json"}), cli::kDone);
   EXPECT_EQ(Run({"--json", "--inspect"}), cli::kIncomplete);
   EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\Jeux\\Notes.txt"}));
+}
+
+TEST_F(UnreadCliTest, ADirectoryBelowOneThatCannotBeEnteredIsToldAndTheOthersAreCatalogued) {
+  disc_.File("JEUX/SOUS/A.EXE", DosExecutable());
+  disc_.File("ZEBRE/Z.EXE", DosExecutable());
+  Lock("JEUX", std::filesystem::perms::owner_read);
+  EXPECT_EQ(Run({"--json", "--inspect"}), cli::kIncomplete);
+  EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\Jeux\\Sous"}));
+  EXPECT_EQ(Json::parse(out_)["tables"][1]["rows"].size(), 1u);
+  EXPECT_EQ(err_, Line(Argument("JEUX/SOUS")));
+}
+
+TEST_F(UnreadCliTest, ADirectoryWithALinkThatCannotBeFollowedIsTold) {
+  disc_.File("SECRET/A.EXE", DosExecutable());
+  disc_.File("JEUX/B.EXE", DosExecutable());
+  std::filesystem::create_symlink("../SECRET/A.EXE", disc_.HostPath("JEUX/LIEN.EXE"));
+  Lock("SECRET", std::filesystem::perms::owner_read);
+  EXPECT_EQ(Run({"--json", "--start", "D:\\JEUX"}), cli::kIncomplete);
+  EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\JEUX"}));
+  EXPECT_EQ(Json::parse(out_)["tables"][1]["rows"].size(), 1u);
 }
 
 TEST_F(UnreadCliTest, TwentyAreToldByNameAndTheOthersCounted) {
