@@ -6,6 +6,7 @@
 #include "Lib/LIB_STRING.h"
 #include "Lib/Lib_Form.h"
 #include "System/LIB_SYSTEME.h"
+#include "Ui/Directory.h"
 
 namespace trovex {
 namespace {
@@ -103,7 +104,7 @@ class Companions {
       if (sSuivant.empty()) return;
       folder_ = &next_.emplace(sSuivant);
       form_.TientDossier(folder_);
-      source_.Show(sSuivant, folder_->Entries(), source_.Pattern());
+      ListFolder(*folder_);
     }
   }
 
@@ -175,6 +176,14 @@ class Companions {
 };
 
 }  // namespace
+
+void ListFolder(const Folder& folder) {
+  if (folder.Entries() == nullptr && DirectoryExists(folder.Name())) {
+    throw RuntimeError(ErrorNumber::kPathFileAccess);
+  }
+  FileListBox& liste = Lib_Form().ListeFichier();
+  liste.Show(folder.Name(), folder.Entries(), liste.Pattern());
+}
 
 void ListCompanions(MainForm& form, Grid& grid, const Text& sFichier, const Folder& folder) {
   Companions(form, grid, sFichier, folder).Run();

@@ -53,9 +53,8 @@ class RowFolder {
 void ShowDetails(MainForm& form, Grid& grid, int Index, const Text& sFichier,
                  const Folder& folder) {
   form.TextInfo(5).SetText(Trimmed(sAjouteBackslash(grid.GetText()) + sFichier));
-  FileListBox& liste = Lib_Form().ListeFichier();
-  liste.Show(folder.Name(), folder.Entries(), liste.Pattern());
-  form.ListFichier.SetTag(liste.Path());
+  ListFolder(folder);
+  form.ListFichier.SetTag(Lib_Form().ListeFichier().Path());
   grid.SetCol(2);
   zFileInfo oInfo;
   oInfo.PutFileName(FileInHand(&folder, form.TextInfo(5).GetText()));

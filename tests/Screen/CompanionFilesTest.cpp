@@ -86,12 +86,12 @@ TEST_F(CompanionFilesTest, InstallTxtDisplacesTheIconAtTheSamePlaceInTheSource) 
 }
 
 TEST_F(CompanionFilesTest, InstallTxtMissesAnIconWhoseNumberIsAnothersInTheSource) {
-  // The executable is in no pattern of the program's; an archive of two points lists one.
-  Files({"J/A.EXE", "J/A.ICO", "J/INSTALL.TXT", "J/B.EXE"});
-  disc.File("J/A.ZIP", ZipArchive(50));
-  Inspect(2, u" D:\\J", u" A.zip");
-  EXPECT_THAT(Companions(), ElementsAre(u"A.ico", u"A.zip"));
-  EXPECT_EQ(Chosen(), u"A.ico");
+  // Number 1 is the icon in the list, which leaves the executable out; in the source it is In.zip.
+  Files({"J/IN.EXE", "J/INA.ICO", "J/INSTALL.TXT"});
+  disc.File("J/IN.ZIP", ZipArchive(50));
+  Inspect(2, u" D:\\J", u" In.zip");
+  EXPECT_THAT(Companions(), ElementsAre(u"In.zip", u"Ina.ico", u"Install.txt"));
+  EXPECT_EQ(Chosen(), u"Ina.ico");
 }
 
 TEST_F(CompanionFilesTest, NothingButExecutablesGivesAnEmptyList) {
@@ -141,6 +141,16 @@ TEST_F(CompanionFilesTest, AMissingDisk2EndsInTheErrorBox) {
   Inspect(0, u" D:\\App\\Disk1", u" Setup.exe");
   EXPECT_EQ(BoxMessage(), kNoInformation);
   EXPECT_EQ(BoxError(), 76);
+}
+
+TEST_F(CompanionFilesTest, ADisk2ThatCannotBeReadEndsInTheErrorBox) {
+  Files({"APP/DISK1/SETUP.EXE", "APP/DISK2/LISEZ.TXT"});
+  machine.unreadable = {u"D:\\APP\\DISK2"};
+  view.Answer(BoxAnswer::kOk);
+  Inspect(0, u" D:\\App\\Disk1", u" Setup.exe");
+  EXPECT_EQ(BoxMessage(), kNoInformation);
+  EXPECT_EQ(BoxError(), 75);
+  EXPECT_THAT(Companions(), IsEmpty());
 }
 
 TEST_F(CompanionFilesTest, AnEmptyDisk2LeadsToDisk3) {

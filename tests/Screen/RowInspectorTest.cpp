@@ -70,6 +70,27 @@ TEST_F(RowInspectorTest, AClickOnTheTitleRowChangesNothing) {
   EXPECT_TRUE(form.ImageSelect.Visible());
 }
 
+TEST_F(RowInspectorTest, AClickOnATableThatWasNeverFilledChangesNothing) {
+  FillPanes();
+  for (int table = 0; table < kTableCount; ++table) {
+    ASSERT_EQ(form.GridLogiciel(table).Row(), 0) << "no row is the current one yet";
+    Raise(form.GridLogiciel(table).on_click);
+  }
+  for (int i = 0; i <= 5; ++i) EXPECT_EQ(Info(i), u"ancien") << i;
+  EXPECT_THAT(Companions(), testing::ElementsAre(u"Ancien.txt"));
+  EXPECT_EQ(form.IconeFichier.GetPicture(), (Picture{Picture::Source::kResource, u"ancien"}));
+}
+
+// Its blank row is the current one then.
+TEST_F(RowInspectorTest, AClickOnATableThatTheScanLeftEmptyEmptiesThePanes) {
+  Scan();
+  form.ZoneDesTableaux.SetTab(0);
+  FillPanes();
+  ASSERT_EQ(form.GridLogiciel(0).Row(), 1);
+  Raise(form.GridLogiciel(0).on_click);
+  ExpectEmptyPanes();
+}
+
 TEST_F(RowInspectorTest, AClickOnAnEmptyRowEmptiesThePanesWithoutHourglass) {
   FillPanes();
   form.GridLogiciel(0).SetRow(1);
@@ -145,6 +166,25 @@ TEST_F(RowInspectorTest, AVanishedDirectoryGivesTheErrorBoxAndTheNextClickStarts
   ClickRow(1);
   EXPECT_EQ(Info(2), u"CORNEM");
   EXPECT_EQ(Help(), u"");
+}
+
+TEST_F(RowInspectorTest, ADirectoryThatCannotBeReadGivesTheErrorBoxWithTheFile) {
+  Lines("JEU/LIRE.TXT", {u"Bonjour"});
+  machine.unreadable = {u"D:\\JEU"};
+  view.Answer(BoxAnswer::kOk);
+  Inspect(1, u" D:\\Jeu", u" Jeu.exe");
+  EXPECT_EQ(BoxMessage(), u"Erreur lors de la recherche d'information sur le fichier : Jeu.exe");
+  EXPECT_EQ(BoxError(), 75);
+  EXPECT_EQ(Info(5), u"D:\\Jeu\\Jeu.exe") << "what was written stays";
+  EXPECT_EQ(Info(1), u"");
+}
+
+TEST_F(RowInspectorTest, ARootThatCannotBeReadGivesTheErrorBoxToo) {
+  Program("X.EXE", kRecord);
+  machine.unreadable = {u"D:\\"};
+  view.Answer(BoxAnswer::kOk);
+  Inspect(1, u" D:\\", u" X.exe");
+  EXPECT_EQ(BoxError(), 75);
 }
 
 TEST_F(RowInspectorTest, PanesShowOnlyWhatTheClickLoaded) {

@@ -52,6 +52,12 @@ bool FakeShell::IsProtected(const Text& name) const {
   return write_protected.contains(ToUpper(name.substr(0, name.find_last_of(u'\\'))));
 }
 
+bool FakeShell::IsListable(const Text& directory) const {
+  Text upper = ToUpper(directory);
+  if (upper.size() > 3 && upper.ends_with(u'\\')) upper.pop_back();
+  return !unreadable.contains(upper);
+}
+
 FileHandle FakeShell::OpenWrite(const Text& name) {
   if (IsProtected(name)) throw RuntimeError(ErrorNumber::kPermissionDenied);
   return ForwardingPlatform::OpenWrite(name);
@@ -70,10 +76,15 @@ bool FakeShell::WritePrivateProfileString(const Text& section, const Text& key, 
 bool FakeShell::OnAsked(Asked what, const Text& name) {
   const bool refused = what == Asked::kFile && unreadable.contains(ToUpper(name));
   if (refused) throw RuntimeError(ErrorNumber::kPermissionDenied);
-  return IsThere(name);
+  return IsThere(name) && (what != Asked::kDirectory || IsListable(name));
+}
+
+bool FakeShell::CanBeListed(const Text& directory) {
+  return IsListable(directory) && ForwardingPlatform::CanBeListed(directory);
 }
 
 std::shared_ptr<HeldDirectory> FakeShell::OpenDirectory(const Text& directory) {
+  if (!IsListable(directory)) return nullptr;
   const bool own = UsesOwnDirectories() && IsThere(directory);
   return own ? WatchedDirectory::Watch(*this, directory, Target().OpenDirectory(directory))
              : ForwardingPlatform::OpenDirectory(directory);
@@ -81,7 +92,8 @@ std::shared_ptr<HeldDirectory> FakeShell::OpenDirectory(const Text& directory) {
 
 FindHandle FakeShell::FindFirstFile(const Text& pattern, FindData& data) {
   data = {};
-  return IsThere(pattern) ? ForwardingPlatform::FindFirstFile(pattern, data) : FindHandle::kInvalid;
+  const bool there = IsThere(pattern) && IsListable(pattern.substr(0, pattern.rfind(u'\\') + 1));
+  return there ? ForwardingPlatform::FindFirstFile(pattern, data) : FindHandle::kInvalid;
 }
 
 bool FakeShell::GetFileStatus(const Text& name, FileStatus& status) {

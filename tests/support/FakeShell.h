@@ -52,7 +52,7 @@ class FakeShell : public ForwardingPlatform, private DirectoryWatch {
   std::map<Text, Text> environment;
   std::deque<double> random;  // 0 when used up
   std::set<Text> gone;        // directories that have vanished with all they held
-  std::set<Text> unreadable;  // files that cannot be opened
+  std::set<Text> unreadable;  // files that cannot be opened, directories that cannot be listed
   std::size_t read_fails_after = std::numeric_limits<std::size_t>::max();  // bytes
   bool registry_locked = false;
 
@@ -70,6 +70,7 @@ class FakeShell : public ForwardingPlatform, private DirectoryWatch {
   std::size_t bytes_read = 0, largest_read = 0;  // the sum, and the most asked for at once
 
   std::shared_ptr<HeldDirectory> OpenDirectory(const Text& directory) override;
+  bool CanBeListed(const Text& directory) override;
   FindHandle FindFirstFile(const Text& pattern, FindData& data) override;
   bool GetFileStatus(const Text& name, FileStatus& status) override;
   FileHandle OpenRead(const Text& name) override;
@@ -114,6 +115,7 @@ class FakeShell : public ForwardingPlatform, private DirectoryWatch {
   }
   bool IsThere(const Text& name) const;
   bool IsProtected(const Text& name) const;
+  bool IsListable(const Text& directory) const;
   RegistryKey Open(const KeyName& name);
 
   std::map<KeyName, std::map<Text, RegistryValue>> registry_;
