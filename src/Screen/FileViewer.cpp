@@ -16,10 +16,12 @@ Text ChosenFile(MainForm& form) {
   return sAjouteBackslash(form.ListFichier.Tag()) + form.ListFichier.GetText();
 }
 
-// Length in bytes, 0 where the file cannot be found.
-std::int64_t LengthOf(const FileInHand& oFichier) {
+// Length in bytes, 0 where the file cannot be found. Only its 32 low bits count: from 2 GiB on it
+// may be negative, and such a text is refused.
+std::int32_t LengthOf(const FileInHand& oFichier) {
   FileStatus status;
-  return oFichier.Exists() && oFichier.GetFileStatus(status) ? status.length : 0;
+  const bool found = oFichier.Exists() && oFichier.GetFileStatus(status);
+  return found ? static_cast<std::int32_t>(status.length) : 0;
 }
 
 void ShowIcon(MainForm& form, const Text& sFichier) {
@@ -35,7 +37,7 @@ void ShowIcon(MainForm& form, const Text& sFichier) {
   form.ImageSelect.SetVisible(true);
 }
 
-void RefuseText(MainForm& form, const Text& sFichier, std::int64_t lTaille) {
+void RefuseText(MainForm& form, const Text& sFichier, std::int32_t lTaille) {
   form.LabelInfo(2).SetVisible(false);
   form.TextInfo(0).SetVisible(false);
   MessageInfo(ResString(StringId::kAffichageAnnule) + Text(kCrLf) + sFichier + Text(kCrLf) +
@@ -47,7 +49,7 @@ void ShowText(MainForm& form, Text sFichier) {
   form.PrintTexte.SetVisible(false);
   form.TextInfo(0).SetText({});
   FileInHand oFichier(form.DossierEnMain(), sFichier);
-  std::int64_t lTaille = LengthOf(oFichier);
+  std::int32_t lTaille = LengthOf(oFichier);
   if (!oFichier.Exists()) {
     // The list may have been read from another disk directory than the row's own.
     const Text sAutre =

@@ -1,3 +1,4 @@
+#include "Platform/PartScope.h"
 #include "ScreenTest.h"
 
 namespace trovex::test {
@@ -57,6 +58,40 @@ TEST_F(FileViewerTest, AnEmptyTextShowsTheMessageAndNoPane) {
   EXPECT_EQ(view.Boxes().back().style, BoxStyle::kInfo);
   EXPECT_EQ(Pane(), "");
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
+}
+
+// A disk on which every file says that it is so long.
+class LongFiles : public ForwardingFiles {
+ public:
+  LongFiles(FilePort& target, std::int64_t bytes) : ForwardingFiles(target), length_(bytes) {}
+  bool GetFileStatus(const Text& name, FileStatus& status) override {
+    const bool found = ForwardingFiles::GetFileStatus(name, status);
+    status.length = length_;
+    return found;
+  }
+
+ private:
+  std::int64_t length_;
+};
+
+TEST_F(FileViewerTest, ATextWhoseLengthIsNegativeIn32BitsShowsTheMessage) {
+  Lines("J/A.TXT", {u"Bonjour"});
+  LongFiles files(CurrentPlatform(), std::int64_t{2} << 30);
+  PartScope scope(files);
+  view.Answer(BoxAnswer::kOk);
+  View(u"A.txt");
+  EXPECT_EQ(LastBox(),
+            u"Affichage annulé du fichier : \r\nD:\\J\\A.txt\r\ncar la taille du fichier est de "
+            u"-2147483648 Octets");
+  EXPECT_EQ(Pane(), "");
+}
+
+TEST_F(FileViewerTest, ATextOfOneByteLessIsShown) {
+  Lines("J/A.TXT", {u"Bonjour"});
+  LongFiles files(CurrentPlatform(), (std::int64_t{2} << 30) - 1);
+  PartScope scope(files);
+  View(u"A.txt");
+  EXPECT_EQ(Info(0), u"Bonjour");
 }
 
 TEST_F(FileViewerTest, AnEmptyTextLeavesTheIconWhereItIs) {
