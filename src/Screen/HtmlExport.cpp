@@ -43,6 +43,7 @@ class HtmlExport {
         sPageDonnees_(PageName(u"donnees")) {}
 
   ExportOutcome Run() {
+    const InputBreak input_break;
     BusyOn();
     const std::size_t iAbandonnes = iTextesAbandonnes();
     const int iOngletDepart = form_.ZoneDesTableaux.Tab();

@@ -107,6 +107,26 @@ TEST_F(HtmlQuestionsTest, TheTabComesBackAndTheRowsStayOnTheLast) {
   EXPECT_EQ(view.GetPointer(), Pointer::kDefault);
 }
 
+TEST_F(HtmlQuestionsTest, WhatTheUserDoesWhileItWritesIsLost) {
+  std::vector<bool> lost;
+  const auto follow = form.GridLogiciel(1).on_click;
+  form.GridLogiciel(1).on_click = [&] {
+    lost.push_back(view.IgnoresInput());
+    follow();
+  };
+  Export();
+  EXPECT_THAT(lost, testing::AllOf(testing::Contains(true), Not(testing::Contains(false))));
+  EXPECT_FALSE(view.IgnoresInput());
+}
+
+TEST_F(HtmlQuestionsTest, AnExportThatFailsGivesTheWindowBack) {
+  disk.room = 100;
+  Prepare({});
+  view.Answer(BoxAnswer::kOk);
+  Raise(form.ConvertHTML.on_click);
+  EXPECT_FALSE(view.IgnoresInput());
+}
+
 TEST_F(HtmlQuestionsTest, TheDetailsShowTheLastRowExported) {
   form.ZoneDesTableaux.SetTab(1);
   ClickRow(1);

@@ -52,6 +52,7 @@ class HeadlessView : public View {
   // Everything that came up although the queue held no answer, where that is to be reported.
   const std::vector<Text>& Complaints() const { return complaints_; }
   Pointer GetPointer() const { return pointer_; }
+  bool IgnoresInput() const { return ignoring_ > 0; }
   Control* Focus() const { return focus_; }
   int Repaints(const Control& control) const;
   const std::vector<Form*>& TopmostForms() const { return topmost_; }
@@ -80,7 +81,7 @@ class HeadlessView : public View {
   FontMeasure MeasureFont(const Font& font) override;
   void ShowPreview(const Preview& preview) override;
   void SetPointer(Pointer pointer) override { pointer_ = pointer; }
-  void IgnoreInput(bool) override {}
+  void IgnoreInput(bool ignore) override { ignoring_ += ignore ? 1 : -1; }
   Extent ScreenSize() override { return screen_; }
 
  private:
@@ -100,6 +101,7 @@ class HeadlessView : public View {
   std::vector<std::pair<const Control*, int>> repaints_;
   std::vector<Form*> topmost_;
   Pointer pointer_ = Pointer::kDefault;
+  int ignoring_ = 0;
   Control* focus_ = nullptr;
   Form* front_ = nullptr;
   Extent screen_ = {15360, 11520};  // 1024 by 768 pixels
