@@ -25,8 +25,8 @@ TextView ParentOf(TextView path) {
   return parent.ends_with(u':') ? path.substr(0, backslash + 1) : parent;
 }
 
-// "X:" and "x: [LABEL]" name a drive: its current directory is its root here, as no other part of
-// the program leaves a drive's root behind.
+// "X:" and "x: [LABEL]" name a drive and mean its root, wherever the process stands on that drive:
+// who chooses a disc wants to see it from the top.
 Text Resolved(TextView path) {
   const bool drive = path.size() >= 2 && path[1] == u':' && (path.size() == 2 || path[2] == u' ');
   return drive ? Text{ToUpper(path[0]), u':', u'\\'} : WithoutBackslash(path);

@@ -14,7 +14,7 @@ class DirListBox : public Control {
   DirListBox() : Control(ControlKind::kDirListBox) {}
 
   // Setting it reads the children, sets ListIndex to -1 and raises the change event. "X:" and a
-  // drive list's "x: [LABEL]" stand for the current directory of that drive, or its root. Raises
+  // drive list's "x: [LABEL]" stand for that drive's root, whatever its current directory. Raises
   // kPathNotFound, or kDeviceUnavailable where the drive itself is not there; the former path
   // stays then.
   const Text& Path() const { return path_; }

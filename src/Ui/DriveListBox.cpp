@@ -49,13 +49,13 @@ void DriveListBox::Reread() {
   ReadDrives();
   const Text current = CurrentPlatform().GetCurrentDirectory();
   list_index_ = current.empty() ? -1 : IndexOf(current[0]);
+  selected_ = Drive().empty() ? u'\0' : Drive()[0];
   Notify(Property::kSelection);
 }
 
 void DriveListBox::Update() {
-  const char16_t selected = Drive().empty() ? u'\0' : Drive()[0];
   ReadDrives();
-  const int index = selected == 0 ? -1 : IndexOf(selected);
+  const int index = IndexOf(selected_);
   if (index == list_index_) return;
   list_index_ = index;
   Notify(Property::kSelection);
@@ -72,7 +72,7 @@ void DriveListBox::SetListIndex(int index) {
   }
   if (index == list_index_) return;
   list_index_ = index;
-  chosen_ = ToUpper(List(index)[0]);
+  selected_ = chosen_ = ToUpper(List(index)[0]);
   Notify(Property::kSelection);
   Raise(on_change);
 }

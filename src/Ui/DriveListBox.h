@@ -15,8 +15,8 @@ class DriveListBox : public Control {
 
   // Reads the drives anew and selects the current directory's; that counts as no choice.
   void Reread();
-  // Reads the drives and labels again and keeps the selected drive, or none where it has gone. No
-  // event is raised.
+  // Reads the drives and labels again and keeps the selected drive. None is selected while it has
+  // gone; it comes back with its drive. No event is raised.
   void Update();
   int ListCount() const { return static_cast<int>(drives_.size()); }
   const Text& List(int index) const;
@@ -42,7 +42,8 @@ class DriveListBox : public Control {
 
   std::vector<Text> drives_;
   int list_index_ = -1;
-  char16_t chosen_ = 0;  // letter of the drive that was chosen, 0 if none was
+  char16_t selected_ = 0;  // letter of the drive that is selected, or was until it went
+  char16_t chosen_ = 0;    // letter of the drive that was chosen, 0 if none was
 };
 
 }  // namespace trovex

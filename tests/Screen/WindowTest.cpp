@@ -216,8 +216,10 @@ class DriveTest : public ScreenTest {
   DriveTest() {
     machine.drives = {u"C", u"D", u"E"};
     machine.labels[u"D"] = u"GRENIER";
+    disc.Directory("JEUX/ARCADE");
+    machine.ChangeDirectory(u"D:\\JEUX\\ARCADE");
     form.ListeDrive.Reread();
-    form.ListeRepertoire.SetPath(u"D:\\");
+    form.ListeRepertoire.SetPath(u"D:\\JEUX\\ARCADE");
   }
 };
 
@@ -225,6 +227,13 @@ TEST_F(DriveTest, ADriveThatIsChosenShowsItsDirectories) {
   form.ListeDrive.SetListIndex(0);
   EXPECT_EQ(form.ListeDrive.Drive(), u"c:");
   EXPECT_EQ(form.ListeRepertoire.Path(), u"C:\\");
+}
+
+TEST_F(DriveTest, ADriveIsShownFromItsRootThoughTheProgramStandsDeeper) {
+  form.ListeDrive.SetListIndex(0);
+  form.ListeDrive.SetListIndex(1);
+  EXPECT_EQ(machine.GetCurrentDirectory(), u"D:\\JEUX\\ARCADE");
+  EXPECT_EQ(form.ListeRepertoire.Path(), u"D:\\");
 }
 
 TEST_F(DriveTest, AnEmptyCdRomDriveShowsTheBoxAndTheFormerDriveComesBack) {
@@ -262,10 +271,6 @@ class ChangedDiscTest : public DriveTest {
     EXPECT_EQ(form.ListeRepertoire.Path(), u"D:\\");
     EXPECT_EQ(form.ListeRepertoire.List(0), u"D:\\UTIL");
     EXPECT_EQ(BoxCount(), 0u);
-  }
-  ChangedDiscTest() {
-    disc.Directory("JEUX/ARCADE");
-    form.ListeRepertoire.SetPath(u"D:\\JEUX\\ARCADE");
   }
 };
 

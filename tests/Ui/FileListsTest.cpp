@@ -446,6 +446,24 @@ TEST_F(DriveListBoxTest, ADriveThatHasGoneLeavesNoneSelected) {
   EXPECT_EQ(changes_, 0);
 }
 
+TEST_F(DriveListBoxTest, ADriveThatComesBackIsSelectedAgain) {
+  platform_.mask = 1u << 25;
+  list_.Update();
+  platform_.mask = 1u << 2 | 1u << 25;
+  list_.Update();
+  EXPECT_EQ(list_.Drive(), u"c: [SYSTEME]");
+  EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(DriveListBoxTest, ADriveThatComesBackLeavesTheOneThatWasChosenMeanwhile) {
+  platform_.mask = 1u << 25;
+  list_.Update();
+  list_.SetDrive(u"z:");
+  platform_.mask = 1u << 2 | 1u << 25;
+  list_.Update();
+  EXPECT_EQ(list_.Drive(), u"z:");
+}
+
 TEST_F(DriveListBoxTest, TheDriveThatIsSelectedCanBeChosenAgain) {
   int again = 0;
   list_.on_again = [&] { ++again; };
