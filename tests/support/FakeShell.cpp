@@ -80,7 +80,7 @@ bool FakeShell::OnAsked(Asked what, const Text& name) {
 }
 
 bool FakeShell::CanBeListed(const Text& directory) {
-  return IsListable(directory) && ForwardingPlatform::CanBeListed(directory);
+  return IsThere(directory) && IsListable(directory) && ForwardingPlatform::CanBeListed(directory);
 }
 
 std::shared_ptr<HeldDirectory> FakeShell::OpenDirectory(const Text& directory) {
