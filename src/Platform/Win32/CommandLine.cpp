@@ -8,6 +8,22 @@ CommandLine SplitAt(const Text& line, std::size_t end) {
   return {line.substr(0, end), next == Text::npos ? Text() : line.substr(next)};
 }
 
+bool NamesAPlace(const Text& line) {
+  return line.starts_with(u"\\\\") || line.find(u":\\") == 1;
+}
+
+// Where the program ends that cannot be found: a shorter name would be another program's.
+std::size_t EndOfMissing(const Text& line) {
+  constexpr TextView kExtension = u".EXE";
+  const Text upper = ToUpper(line);
+  for (std::size_t at = upper.find(kExtension); at != Text::npos;
+       at = upper.find(kExtension, at + 1)) {
+    const std::size_t end = at + kExtension.size();
+    if (end == line.size() || line[end] == u' ') return end;
+  }
+  return line.size();
+}
+
 }  // namespace
 
 Text CommandLine::Whole() const {
@@ -29,7 +45,7 @@ CommandLine SplitCommandLine(const Text& line, const std::function<bool(const Te
        end = line.rfind(u' ', end - 1)) {
     if (is_file(line.substr(0, end))) return SplitAt(line, end);
   }
-  return SplitAt(line, line.find(u' '));
+  return SplitAt(line, NamesAPlace(line) ? EndOfMissing(line) : line.find(u' '));
 }
 
 }  // namespace trovex

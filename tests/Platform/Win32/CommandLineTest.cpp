@@ -53,5 +53,19 @@ TEST_F(CommandLineTest, WhereNoFileIsNamedTheFirstWordIsTheProgram) {
   EXPECT_EQ(Split(u"\"sans fin").program, u"\"sans");
 }
 
+TEST_F(CommandLineTest, AProgramThatHasGoneIsNotTakenForOneThatBearsTheBeginningOfItsName) {
+  const CommandLine line = Split(u"D:\\Mes jeux\\setup.exe");
+  EXPECT_EQ(line.program, u"D:\\Mes jeux\\setup.exe");
+  EXPECT_EQ(line.Whole(), u"\"D:\\Mes jeux\\setup.exe\"");
+  EXPECT_EQ(Split(u"\\\\serveur\\Mes jeux\\A.Exe").program, u"\\\\serveur\\Mes jeux\\A.Exe");
+}
+
+TEST_F(CommandLineTest, AProgramThatHasGoneEndsBehindItsExtension) {
+  const CommandLine line = Split(u"C:\\Mes outils.exeter\\Zip.EXE  /s \"D:\\a.exe\"");
+  EXPECT_EQ(line.program, u"C:\\Mes outils.exeter\\Zip.EXE");
+  EXPECT_EQ(line.arguments, u"/s \"D:\\a.exe\"");
+  EXPECT_EQ(Split(u"C:\\Mes outils\\Zip.com /s").program, u"C:\\Mes outils\\Zip.com /s");
+}
+
 }  // namespace
 }  // namespace trovex::test

@@ -42,6 +42,16 @@ TEST(StartedChild, DISABLED_Reports) {
 
 class StartedProgramTest : public Contract {
  protected:
+  ~StartedProgramTest() override {
+    SetEnvironmentVariableW(L"GTEST_ALSO_RUN_DISABLED_TESTS", nullptr);
+    SetEnvironmentVariableW(L"GTEST_FILTER", nullptr);
+  }
+  // A copy of the test program reports even where no argument tells it so.
+  void CopyChild(const Text& name) {
+    ASSERT_TRUE(CopyFileW(Wide(ModuleName()), Wide(name), TRUE));
+    SetEnvironmentVariableW(L"GTEST_ALSO_RUN_DISABLED_TESTS", L"1");
+    SetEnvironmentVariableW(L"GTEST_FILTER", L"StartedChild.*");
+  }
   // What the child says that `command_line` starts.
   Text Report(const Text& command_line) {
     const OwnedFile event = OwnFile(CreateEventW(nullptr, TRUE, FALSE, kEvent));
@@ -62,19 +72,21 @@ class StartedProgramTest : public Contract {
     const OwnedFile process = OwnFile(OpenProcess(SYNCHRONIZE, FALSE, number));
     if (process) WaitForSingleObject(process.get(), INFINITE);
   }
-  void CopyChild(const Text& name) { ASSERT_TRUE(CopyFileW(Wide(ModuleName()), Wide(name), TRUE)); }
 };
 
 TEST_F(StartedProgramTest, TheNamedProgramStartsAndNotOneThatBearsTheBeginningOfItsName) {
   disc_.Directory("Mes jeux");
   CopyChild(u"D:\\Mes.exe");
   CopyChild(u"D:\\Mes jeux\\setup.exe");
-  SetEnvironmentVariableW(L"GTEST_ALSO_RUN_DISABLED_TESTS", L"1");
-  SetEnvironmentVariableW(L"GTEST_FILTER", L"StartedChild.*");
   const Text report = Report(u"D:\\Mes jeux\\setup.exe");
-  SetEnvironmentVariableW(L"GTEST_ALSO_RUN_DISABLED_TESTS", nullptr);
-  SetEnvironmentVariableW(L"GTEST_FILTER", nullptr);
   EXPECT_EQ(report.substr(0, report.find(u'\n')), u"D:\\Mes jeux\\setup.exe");
+}
+
+TEST_F(StartedProgramTest, WhereTheNamedProgramHasGoneNothingStarts) {
+  disc_.Directory("Mes jeux");
+  CopyChild(u"D:\\Mes.exe");
+  EXPECT_EQ(ErrorOf([&] { platform_.StartProgram(u"D:\\Mes jeux\\setup.exe", SW_HIDE); }),
+            ErrorNumber::kFileNotFound);
 }
 
 TEST_F(StartedProgramTest, AStartedProgramDoesNotInheritTheErrorMode) {
