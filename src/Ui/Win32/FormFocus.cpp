@@ -1,5 +1,6 @@
 // Where the focus of a form is, and where it goes.
 #include <algorithm>
+#include <limits>
 
 #include "Ui/OptionButton.h"
 #include "Ui/Win32/FormWindow.h"
@@ -48,14 +49,22 @@ bool FormWindow::IsStop(const NativeControl& control) const {
   return (chosen != nullptr ? chosen : group.front()) == &control;
 }
 
+// A control without a place in the order comes behind all that have one.
+std::vector<NativeControl*> FormWindow::InOrder() const {
+  std::vector<NativeControl*> order;
+  for (const auto& control : controls_) order.push_back(control.get());
+  const auto key = [](const NativeControl* control) {
+    const int place = control->Model().TabOrder();
+    return place < 0 ? std::numeric_limits<int>::max() : place;
+  };
+  std::stable_sort(order.begin(), order.end(),
+                   [&](const auto* a, const auto* b) { return key(a) < key(b); });
+  return order;
+}
+
 std::vector<NativeControl*> FormWindow::Stops() const {
-  std::vector<NativeControl*> stops;
-  for (const auto& control : controls_) {
-    if (IsStop(*control)) stops.push_back(control.get());
-  }
-  std::stable_sort(stops.begin(), stops.end(), [](const auto* a, const auto* b) {
-    return a->Model().TabOrder() < b->Model().TabOrder();
-  });
+  std::vector<NativeControl*> stops = InOrder();
+  std::erase_if(stops, [this](const auto* control) { return !IsStop(*control); });
   return stops;
 }
 
@@ -73,12 +82,12 @@ void FormWindow::PassFocusOn() {
     ::SetFocus(focused_->Handle());
     return;
   }
-  const std::vector<NativeControl*> stops = Stops();
-  if (stops.empty()) return;
-  const auto behind = std::find_if(stops.begin(), stops.end(), [this](const auto* stop) {
-    return focused_ != nullptr && stop->Model().TabOrder() > focused_->Model().TabOrder();
-  });
-  ::SetFocus((behind == stops.end() ? stops.front() : *behind)->Handle());
+  // To the first stop behind it, or from the last one to the first.
+  std::vector<NativeControl*> order = InOrder();
+  std::rotate(order.begin(), std::find(order.begin(), order.end(), focused_), order.end());
+  const auto stop =
+      std::find_if(order.begin(), order.end(), [this](const auto* next) { return IsStop(*next); });
+  if (stop != order.end()) ::SetFocus((*stop)->Handle());
 }
 
 // The window of another program, or one above this form, keeps the focus that it has.

@@ -90,6 +90,7 @@ class FormWindow {
   void Recolour();
   void OnPaint();
   // The controls at which the Tab key stops, in its order.
+  std::vector<NativeControl*> InOrder() const;
   std::vector<NativeControl*> Stops() const;
   bool IsStop(const NativeControl& control) const;
   // The options of the control's group that can be reached, in the order of the form.

@@ -58,6 +58,20 @@ TEST_F(FormWindowTest, TheTabKeyFollowsTheOrderAndLeavesOutWhatCannotBeReached) 
   EXPECT_TRUE(Focused(B(1)));
 }
 
+TEST_F(FormWindowTest, WhatHasNoPlaceInTheOrderOfTabComesLast) {
+  B(1).SetTabOrder(1);
+  B(2).SetTabOrder(0);
+  Show();
+  EXPECT_TRUE(Focused(B(2))) << "the first stop";
+  Tab();
+  EXPECT_TRUE(Focused(B(1)));
+  Tab();
+  EXPECT_TRUE(Focused(B(0)));
+  B(0).SetEnabled(false);
+  Rest();
+  EXPECT_TRUE(Focused(B(2))) << "from the last to the first";
+}
+
 // Two options between two buttons.
 class OptionGroupTest : public ViewTest {
  protected:
