@@ -1,6 +1,7 @@
 // Which window is active, what owns what, and where the focus is, before and behind the dialogs.
 #include "Lib/LIB_DIALOGUE.h"
 #include "Lib/Lib_Form.h"
+#include "Screen/HtmlExport.h"
 #include "Screen/Lib_AboutDlg.h"
 #include "WindowTest.h"
 #include "support/Win32/OtherProgram.h"
@@ -174,21 +175,40 @@ TEST_F(ModalityTest, TheEndOfTheSessionFindsADialogOpen) {
   EXPECT_TRUE(LoadedForms().empty());
 }
 
-TEST_F(ModalityTest, WhatIsClickedAndTypedDuringAScanIsLost) {
-  int clicks = 0;
-  form.Quitter.on_click = [&] { ++clicks; };
-  form.Apropos.on_click = [&] { ++clicks; };
-  const HWND quitter = Handle(form.Quitter);
-  PostMessageW(quitter, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-  PostMessageW(quitter, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-  PostMessageW(Handle(form.Apropos), WM_KEYDOWN, VK_RETURN, 1);
-  PostMessageW(Handle(form), WM_SYSKEYDOWN, VK_F4, 1 << 29);
+// What waits in the queue before a long command, for buttons that only count.
+class HeldThreadTest : public ModalityTest {
+ protected:
+  HeldThreadTest() {
+    form.Quitter.on_click = form.Apropos.on_click = [this] { ++clicks_; };
+    const HWND quitter = Handle(form.Quitter);
+    PostMessageW(quitter, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    PostMessageW(quitter, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    PostMessageW(Handle(form.Apropos), WM_KEYDOWN, VK_RETURN, 1);
+    PostMessageW(Handle(form), WM_SYSKEYDOWN, VK_F4, 1 << 29);
+  }
+  void ExpectLost() {
+    Rest();
+    EXPECT_EQ(clicks_, 0);
+    EXPECT_TRUE(form.Loaded());
+    WindowUser::Press(form.Apropos, VK_RETURN);
+    EXPECT_EQ(clicks_, 1) << "the user is heard again";
+  }
+
+ private:
+  int clicks_ = 0;
+};
+
+TEST_F(HeldThreadTest, WhatIsClickedAndTypedDuringAScanIsLost) {
   form.Explorer.Press();
-  Rest();
-  EXPECT_EQ(clicks, 0);
-  EXPECT_TRUE(form.Loaded());
-  WindowUser::Press(form.Apropos, VK_RETURN);
-  EXPECT_EQ(clicks, 1) << "the user is heard again";
+  ExpectLost();
+}
+
+TEST_F(HeldThreadTest, WhatIsClickedAndTypedDuringAnExportToHtmlIsLostButNotTheAnswerToItsBox) {
+  disc.Directory("SITE");
+  boxes.Press(IDNO);
+  EXPECT_EQ(ExportHtml(form, {.sFichier = u"D:\\SITE\\A.htm"}), ExportOutcome::kWritten);
+  EXPECT_EQ(boxes.Boxes().size(), 1u);
+  ExpectLost();
 }
 
 }  // namespace
