@@ -116,7 +116,8 @@ TEST_F(ImageCliTest, AnIniFileThatTheImageHoldsInPartIsUnread) {
   disc_.File("disque.bin", iso.bytes.substr(0, iso.data.at("SETUP.LST") + kIsoSector));
   EXPECT_EQ(RunWith({Argument("disque.bin"), "--json"}), cli::kIncomplete);
   EXPECT_EQ(Json::parse(out_)["unread"], Json({"D:\\SETUP.LST"}));
-  EXPECT_EQ(Json::parse(out_)["tables"][1]["rows"][0][0], "");
+  EXPECT_EQ(Json::parse(out_)["tables"][1]["rows"][0][0], "Ne contient pas de nom produit.")
+      << "nothing of a file that is not whole";
 }
 
 TEST_F(ImageCliTest, AnImageThatEndsBeforeItsVolumeSaysSo) {
