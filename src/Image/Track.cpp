@@ -133,12 +133,14 @@ std::size_t Track::ReadSpaced(std::uint32_t index, std::uint32_t offset, char* b
   std::size_t read = 0;
   for (std::size_t at = 0; at < got && read < size; at += layout_.stride, offset = 0) {
     const std::size_t held = std::min<std::size_t>(got - at, layout_.stride);
-    std::optional<std::uint32_t> data = layout_.data;
-    if (layout_.addressed) data = held >= kHeaderSize ? DataIn(&raw[at]) : std::nullopt;
-    if (!data || held <= *data + offset) break;
-    const std::size_t there = std::min<std::size_t>(held - *data, kSectorSize) - offset;
+    std::size_t begin = layout_.addressed ? kLongestStride : std::size_t{layout_.data};
+    if (layout_.addressed && held >= kHeaderSize) {
+      if (const auto data = DataIn(&raw[at])) begin = *data;
+    }
+    if (held <= begin + offset) break;
+    const std::size_t there = std::min<std::size_t>(held - begin, kSectorSize) - offset;
     const std::size_t given = std::min(there, size - read);
-    std::memcpy(buffer + read, &raw[at + *data + offset], given);
+    std::memcpy(buffer + read, &raw[at + begin + offset], given);
     read += given;
     if (there < kSectorSize - offset) break;
   }
