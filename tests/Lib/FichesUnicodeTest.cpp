@@ -75,9 +75,8 @@ TEST_F(FichesUnicodeTest, HoweverTheChoiceIsWrittenItIsNoOtherSetting) {
 }
 
 TEST_F(FichesUnicodeTest, WhatIsReadAsTheChoiceIsNoOtherSetting) {
-  for (const std::string& text : {std::string("[ Options ]\r\nfiches_unicode=-1\r\n"),
-                                  std::string("[Options\r\nfiches_unicode=-1\r\n\x1A"),
-                                  std::string("[Options] suite\r\nfiches_unicode=-1\r\n")}) {
+  for (const char* text : {"[ Options ]\r\nfiches_unicode=-1\r\n",
+                           "[Options] suite\r\nfiches_unicode=-1\r\n\x1A\r\n"}) {
     Settings(text);
     EXPECT_TRUE(AtTheStart()) << text;
     EXPECT_FALSE(bAutresReglages(sFichierIni)) << text;

@@ -206,7 +206,8 @@ TEST_F(HeldThreadTest, WhatIsClickedAndTypedDuringAScanIsLost) {
 TEST_F(HeldThreadTest, WhatIsClickedAndTypedDuringAnExportToHtmlIsLostButNotTheAnswerToItsBox) {
   disc.Directory("SITE");
   boxes.Press(IDNO);
-  EXPECT_EQ(ExportHtml(form, {.sFichier = u"D:\\SITE\\A.htm"}), ExportOutcome::kWritten);
+  EXPECT_EQ(ExportHtml(form, {.sFichier = u"D:\\SITE\\A.htm", .iTableau = 2}),
+            ExportOutcome::kWritten);
   EXPECT_EQ(boxes.Boxes().size(), 1u);
   ExpectLost();
 }
